@@ -1,0 +1,61 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+# What every target of the program is built with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# One folder for all QML modules, so that the linter finds each from every other.
+set(QT_QML_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
+
+add_compile_definitions(QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_NO_CAST_FROM_ASCII
+                        QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
+
+# Where the sources lie on the machine that builds is nobody's business, and two machines shall
+# build the same program.
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+
+# Linked privately by every target that holds nothing but code of our own.
+add_library(MorvaneWarnings INTERFACE)
+target_compile_options(
+    MorvaneWarnings
+    INTERFACE -Wall
+              -Wextra
+              -Wpedantic
+              -Wcast-align
+              -Wcast-qual
+              -Wconversion
+              -Wdouble-promotion
+              -Wextra-semi
+              -Wformat=2
+              -Wimplicit-fallthrough
+              -Wmissing-declarations
+              -Wnon-virtual-dtor
+              -Wnull-dereference
+              -Wold-style-cast
+              -Woverloaded-virtual
+              -Wredundant-decls
+              -Wshadow
+              -Wsign-conversion
+              -Wundef
+              -Wunused
+              -Wzero-as-null-pointer-constant)
+
+# The same for targets with a QML module: what Qt generates for those would inherit the target's
+# options and does not meet them.
+function(morvane_strict_sources)
+    set_source_files_properties(
+        ${ARGV} PROPERTIES COMPILE_OPTIONS
+                           "$<TARGET_PROPERTY:MorvaneWarnings,INTERFACE_COMPILE_OPTIONS>")
+endfunction()
+
+set(MORVANE_SANITIZERS "" CACHE STRING "What -fsanitize= is given, such as address,undefined")
+if(MORVANE_SANITIZERS)
+    add_compile_options(-fsanitize=${MORVANE_SANITIZERS} -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${MORVANE_SANITIZERS})
+endif()

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace Platform {
+
+/// Fills all of `bytes` (at most 256) from the system's cryptographically secure source with one
+/// request, and blocks only while the system has not yet seeded that source.
+/// Returns 0 on success, else the system's status; the content of `bytes` is then unspecified.
+[[nodiscard]] std::int32_t fillSecureRandom(std::span<std::byte> bytes) noexcept;
+
+} // namespace Platform

@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Services/SecureGenerator.h"
+
+#include "Model/GeneratorError.h"
+#include "Model/UnicodeText.h"
+#include "Platform/SecureRandom.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <iostream>
+#include <limits>
+#include <new>
+#include <span>
+#include <type_traits>
+
+static_assert(std::is_empty_v<SecureGenerator>);
+
+namespace {
+
+[[noreturn]] void stop(const char* file = __builtin_FILE(), int line = __builtin_LINE())
+{
+    std::cerr << "Fatal error: " << file << ':' << line << std::endl;
+    std::abort();
+}
+
+void precondition(bool holds, const char* file = __builtin_FILE(), int line = __builtin_LINE())
+{
+    if (!holds)
+        stop(file, line);
+}
+
+constexpr std::array<bool, 128> isAmbiguous = [] {
+    std::array<bool, 128> table{};
+    for (const char c : SecureGenerator::ambiguous)
+        table.at(static_cast<std::size_t>(c)) = true;
+    return table;
+}();
+
+/// The characters that a password draws from, group after group.
+class CharacterPool final
+{
+public:
+    explicit CharacterPool(const GeneratorSettings& settings)
+    {
+        if (settings.lowercase)
+            append(SecureGenerator::lowercase, settings.avoidAmbiguous);
+        if (settings.uppercase)
+            append(SecureGenerator::uppercase, settings.avoidAmbiguous);
+        if (settings.numbers)
+            append(SecureGenerator::numbers, settings.avoidAmbiguous);
+        if (settings.symbols)
+            append(SecureGenerator::symbols, settings.avoidAmbiguous);
+    }
+
+    ~CharacterPool() = default;
+
+    [[nodiscard]] std::span<const char> characters() const
+    {
+        return std::span(m_characters).first(m_size);
+    }
+
+    [[nodiscard]] std::span<const std::span<const char>> groups() const
+    {
+        return std::span(m_groups).first(m_groupCount);
+    }
+
+private:
+    void append(std::string_view group, bool avoidAmbiguous)
+    {
+        const std::size_t start = m_size;
+        for (const char c : group) {
+            if (!avoidAmbiguous || !isAmbiguous.at(static_cast<std::size_t>(c)))
+                m_characters.at(m_size++) = c;
+        }
+        if (m_size > start)
+            m_groups.at(m_groupCount++) = std::span(m_characters).subspan(start, m_size - start);
+    }
+
+    static constexpr std::size_t capacity
+        = SecureGenerator::lowercase.size() + SecureGenerator::uppercase.size()
+          + SecureGenerator::numbers.size() + SecureGenerator::symbols.size();
+
+    std::array<char, capacity> m_characters{};
+    std::size_t m_size = 0;
+    // Views into m_characters: copying a pool would leave them behind.
+    std::array<std::span<const char>, 4> m_groups{};
+    std::size_t m_groupCount = 0;
+    Q_DISABLE_COPY_MOVE(CharacterPool)
+};
+
+} // namespace
+
+QString SecureGenerator::generate(const GeneratorSettings& settings) const
+try {
+    switch (settings.mode) {
+    case GeneratorMode::password:
+        return password(settings);
+    case GeneratorMode::passphrase:
+        return passphrase(settings);
+    }
+    stop();
+} catch (const std::bad_alloc&) {
+    // Nobody can act on it, and the callers are promised that only a GeneratorError gets out.
+    stop();
+}
+
+QString SecureGenerator::password(const GeneratorSettings& settings) const
+{
+    const CharacterPool pool(settings);
+    const auto groups = pool.groups();
+    if (groups.empty())
+        throw GeneratorError::noCharacterSet();
+    if (settings.requireEveryGroup && settings.length < std::ssize(groups))
+        throw GeneratorError::lengthTooShort(std::ssize(groups));
+
+    QString result;
+    result.reserve(std::max<qsizetype>(settings.length, 0));
+    if (settings.requireEveryGroup) {
+        for (const auto group : groups)
+            result += QLatin1Char(pick(group));
+    }
+    while (result.size() < settings.length)
+        result += QLatin1Char(pick(pool.characters()));
+
+    // The guaranteed characters stand in front until here.
+    secureShuffle(result);
+    return result;
+}
+
+QString SecureGenerator::passphrase(const GeneratorSettings& settings) const
+{
+    precondition(settings.wordCount >= 0);
+
+    QString result;
+    for (std::int64_t i = 0; i < settings.wordCount; ++i) {
+        if (i > 0)
+            result += settings.separator;
+        const std::string_view word = pick(words);
+        const auto start = result.size();
+        result += QLatin1String(word.data(), static_cast<qsizetype>(word.size()));
+        if (settings.capitalizeWords)
+            result[start] = result[start].toUpper();
+    }
+    if (settings.appendNumber)
+        result += settings.separator + QString::number(secureIndex(100));
+    return result;
+}
+
+// Why every index is equally likely: the source yields each v from 0 to 2^64 - 1 with the same
+// probability. `limit` is the largest multiple of `bound` that does not exceed 2^64 - 1, so
+// 0 <= v < limit holds each remainder of v mod bound exactly limit / bound times. Other v are
+// drawn again, which happens with a probability below bound / 2^64.
+//
+// For a power of two this gives up the top `bound` values although 2^64 is itself a multiple;
+// that costs nothing that could be measured, and one rule serves every bound.
+std::int64_t SecureGenerator::secureIndex(std::int64_t upperBound) const
+{
+    precondition(upperBound > 0);
+
+    constexpr auto highest = std::numeric_limits<std::uint64_t>::max();
+    const auto bound = static_cast<std::uint64_t>(upperBound);
+    const std::uint64_t limit = highest - highest % bound;
+
+    std::uint64_t value = 0;
+    do {
+        const auto status
+            = Platform::fillSecureRandom(std::as_writable_bytes(std::span(&value, 1)));
+        if (status != 0)
+            throw GeneratorError::randomFailure(status);
+    } while (value >= limit);
+    return static_cast<std::int64_t>(value % bound);
+}
+
+double SecureGenerator::estimatedEntropy(const QString& text,
+                                         const GeneratorSettings& settings) const
+{
+    if (settings.mode == GeneratorMode::passphrase) {
+        const double bits = static_cast<double>(settings.wordCount)
+                            * std::log2(static_cast<double>(words.size()));
+        return settings.appendNumber ? bits + std::log2(100.0) : bits;
+    }
+
+    // The groups' full sizes, although look-alike characters may have been left out: the estimate
+    // describes the kind of password, and stays the same when that switch is thrown.
+    std::size_t pool = 0;
+    if (settings.lowercase)
+        pool += 26;
+    if (settings.uppercase)
+        pool += 26;
+    if (settings.numbers)
+        pool += 10;
+    if (settings.symbols)
+        pool += symbols.size();
+    if (pool == 0)
+        return 0;
+    return static_cast<double>(UnicodeText::perceivedCharacterCount(text))
+           * std::log2(static_cast<double>(pool));
+}
+
+PasswordStrength SecureGenerator::strength(double entropy) const
+{
+    if (entropy < 45)
+        return PasswordStrength::weak;
+    if (entropy < 65)
+        return PasswordStrength::fair;
+    if (entropy < 90)
+        return PasswordStrength::good;
+    return PasswordStrength::strong;
+}

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Pearson's test of whether counts come from a uniform distribution:
+//
+//     EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance);
+
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+#include <numeric>
+#include <span>
+
+namespace ChiSquare {
+
+/// How often a test of a correct generator may fail. The tests of uniformity look at fewer than 20
+/// statistics, so one of them fails in less than one of 5,000,000 runs. What the approximation of
+/// the statistic by the chi-square distribution is off by at this level is small beside that,
+/// because every cell counts tens of thousands of events.
+inline constexpr double significance = 1e-8;
+
+/// The sum of the squared deviations from the mean count, in units of that mean.
+[[nodiscard]] inline double statistic(std::span<const std::int64_t> counts)
+{
+    const auto total = std::accumulate(counts.begin(), counts.end(), std::int64_t{0});
+    const double expected = static_cast<double>(total) / static_cast<double>(counts.size());
+    double sum = 0;
+    for (const std::int64_t count : counts) {
+        const double deviation = static_cast<double>(count) - expected;
+        sum += deviation * deviation / expected;
+    }
+    return sum;
+}
+
+/// The probability that a chi-square variable of `degrees` degrees of freedom is above `x`, both
+/// positive. It is the regularised incomplete gamma function Q(degrees / 2, x / 2), which for whole
+/// degrees has a closed form: Q(a + 1, y) = Q(a, y) + y^a e^-y / Gamma(a + 1), from
+/// Q(1/2, y) = erfc(sqrt(y)) or Q(1, y) = e^-y.
+[[nodiscard]] inline double upperTail(std::int64_t degrees, double x)
+{
+    const double y = x / 2;
+    const bool odd = degrees % 2 != 0;
+    double tail = odd ? std::erfc(std::sqrt(y)) : std::exp(-y);
+    // y^a e^-y / Gamma(a + 1) for a = k / 2, where Gamma(3/2) is half the square root of pi.
+    double term
+        = odd ? 2 * std::sqrt(y) * std::exp(-y) * std::numbers::inv_sqrtpi : y * std::exp(-y);
+    for (std::int64_t k = odd ? 1 : 2; k < degrees; k += 2) {
+        tail += term;
+        term *= x / static_cast<double>(k + 2);
+    }
+    return tail;
+}
+
+/// The probability that a uniform source yields counts at least as uneven as these.
+[[nodiscard]] inline double pValue(std::span<const std::int64_t> counts)
+{
+    return upperTail(std::ssize(counts) - 1, statistic(counts));
+}
+
+} // namespace ChiSquare

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// How failed expectations show the program's types. Included by every test, because all of a
+// program's tests have to agree on it.
+
+#include "Model/GeneratorError.h"
+#include "Model/GeneratorSettings.h"
+
+#include <QString>
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+// NOLINTBEGIN(readability-identifier-naming): the name is GoogleTest's.
+
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const GeneratorError& error, std::ostream* out)
+{
+    *out << error.what();
+    if (const auto length = error.minimumLength())
+        *out << '(' << *length << ')';
+    if (const auto status = error.randomStatus())
+        *out << '(' << *status << ')';
+}
+
+inline void PrintTo(const GeneratorSettings& settings, std::ostream* out)
+{
+    *out << rawValue(settings.mode).toStdString() << ", length " << settings.length << ", groups "
+         << (settings.lowercase ? "a" : "") << (settings.uppercase ? "A" : "")
+         << (settings.numbers ? "0" : "") << (settings.symbols ? "!" : "")
+         << (settings.avoidAmbiguous ? ", no look-alikes" : "")
+         << (settings.requireEveryGroup ? ", every group" : "") << ", words " << settings.wordCount
+         << ", separator ";
+    PrintTo(settings.separator, out);
+    *out << (settings.capitalizeWords ? ", capitals" : "")
+         << (settings.appendNumber ? ", number" : "");
+}
+
+/// A row of a table test, which goes by its name. Only found for the types of a namespace that says
+/// `using ::PrintTo;`.
+template<typename Row>
+requires requires(const Row& row)
+{
+    row.name;
+}
+void PrintTo(const Row& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+// NOLINTEND(readability-identifier-naming)
+
+/// Names the instance of a table test after its row's `name`.
+inline constexpr auto rowName
+    = [](const auto& instance) { return std::string(instance.param.name); };

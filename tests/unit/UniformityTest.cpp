@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+// Whether the choices drawn from the system's real source are uniform, and whether the measure of
+// it would notice if they were not.
+
+#include "ChiSquare.h"
+#include "Printing.h"
+#include "SecureGeneratorAccess.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <numeric>
+#include <random>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+static_assert(std::is_empty_v<SecureGenerator>);
+static_assert(ChiSquare::significance * 20 < 1e-6);
+
+namespace {
+
+using ::PrintTo;
+
+using Counts = std::vector<std::int64_t>;
+
+constexpr std::int64_t draws = 10'000'000;
+
+std::size_t cell(std::int64_t index)
+{
+    return static_cast<std::size_t>(index);
+}
+
+/// The number of the permutation of "abcd", from 0 to 23 in alphabetical order.
+std::size_t permutationNumber(std::string_view text)
+{
+    static const auto numbers = [] {
+        std::map<std::string, std::size_t, std::less<>> result;
+        std::string order = "abcd";
+        do {
+            result.emplace(order, result.size());
+        } while (std::ranges::next_permutation(order).found);
+        return result;
+    }();
+    return numbers.find(text)->second;
+}
+
+char groupOf(char c)
+{
+    if (SecureGenerator::lowercase.find(c) != std::string_view::npos)
+        return 'a';
+    if (SecureGenerator::uppercase.find(c) != std::string_view::npos)
+        return 'b';
+    if (SecureGenerator::numbers.find(c) != std::string_view::npos)
+        return 'c';
+    return 'd';
+}
+
+/// The groups of a fresh password's characters, as one of the letters a to d each.
+std::string groupsOfPassword(const GeneratorSettings& settings)
+{
+    std::string groups = SecureGenerator().generate(settings).toStdString();
+    std::ranges::transform(groups, groups.begin(), groupOf);
+    return groups;
+}
+
+struct Quantile
+{
+    const char* name;
+    std::int64_t degrees;
+    double x;
+    double tail;
+};
+
+class ChiSquareTail : public testing::TestWithParam<Quantile>
+{
+};
+
+TEST_P(ChiSquareTail, AgreesWithPrintedTables)
+{
+    EXPECT_NEAR(ChiSquare::upperTail(GetParam().degrees, GetParam().x), GetParam().tail,
+                GetParam().tail * 1e-3);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ChiSquareTail,
+                         testing::Values(Quantile{"Degrees1", 1, 3.8415, 0.05},
+                                         Quantile{"Degrees1Far", 1, 10.8276, 0.001},
+                                         Quantile{"Degrees2", 2, 5.9915, 0.05},
+                                         Quantile{"Degrees2Far", 2, 13.8155, 0.001},
+                                         Quantile{"Degrees3", 3, 7.8147, 0.05},
+                                         Quantile{"Degrees9", 9, 16.9190, 0.05},
+                                         Quantile{"Degrees9Far", 9, 27.8772, 0.001},
+                                         Quantile{"Degrees10", 10, 18.3070, 0.05},
+                                         Quantile{"Degrees30", 30, 43.7730, 0.05},
+                                         Quantile{"Degrees100", 100, 124.3421, 0.05},
+                                         Quantile{"Degrees100Far", 100, 149.4493, 0.001}),
+                         rowName);
+
+class IndexUniformity : public testing::TestWithParam<std::int64_t>
+{
+};
+
+TEST_P(IndexUniformity, HoldsForTheSecureIndex)
+{
+    Counts counts(cell(GetParam()));
+    for (std::int64_t i = 0; i < draws; ++i)
+        ++counts.at(cell(SecureGeneratorAccess::secureIndex(GetParam())));
+    EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance)
+        << "statistic " << ChiSquare::statistic(counts);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfBound, IndexUniformity, testing::Values(2, 3, 10, 69, 75, 76, 100),
+                         testing::PrintToStringParamName());
+
+TEST(ShuffleUniformity, HoldsForAllOrdersOfFourElements)
+{
+    Counts counts(24);
+    for (std::int64_t i = 0; i < 3'600'000; ++i) {
+        std::string order = "abcd";
+        SecureGeneratorAccess::secureShuffle(order);
+        ++counts.at(permutationNumber(order));
+    }
+    EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance)
+        << "statistic " << ChiSquare::statistic(counts);
+}
+
+TEST(GuaranteeUniformity, HoldsForAllOrdersOfTheGroupsInFourCharacters)
+{
+    Counts counts(24);
+    for (std::int64_t i = 0; i < 480'000; ++i)
+        ++counts.at(permutationNumber(groupsOfPassword({.length = 4})));
+    EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance)
+        << "statistic " << ChiSquare::statistic(counts);
+}
+
+// A password that holds a group just once holds there its guaranteed character, whose place is
+// then the only event of that password for that group. Given which characters were drawn, a
+// uniform shuffle puts it in each of the ten places with the same probability, so over independent
+// passwords the places of one group's single character are uniform. Passwords with more of the
+// group are left out: their places would exclude each other.
+TEST(GuaranteeUniformity, HoldsForThePlacesOfTheGroupsInTenCharacters)
+{
+    std::array<Counts, 4> counts;
+    counts.fill(Counts(10));
+    for (std::int64_t i = 0; i < 540'000; ++i) {
+        const std::string groups = groupsOfPassword({.length = 10});
+        for (std::size_t group = 0; group < counts.size(); ++group) {
+            const char letter = static_cast<char>('a' + static_cast<int>(group));
+            if (std::ranges::count(groups, letter) == 1)
+                ++counts.at(group).at(groups.find(letter));
+        }
+    }
+    for (const auto& places : counts) {
+        EXPECT_GT(std::accumulate(places.begin(), places.end(), std::int64_t{0}), 10'000);
+        EXPECT_GT(ChiSquare::pValue(places), ChiSquare::significance)
+            << "statistic " << ChiSquare::statistic(places);
+    }
+}
+
+// Counterparts of what is tested above, made wrong on purpose. They draw from a generator of fixed
+// seed, so that they are caught in every run or in none.
+
+class BiasedIndex : public testing::TestWithParam<std::int64_t>
+{
+};
+
+TEST_P(BiasedIndex, OfEightBitsIsNoticed)
+{
+    std::mt19937_64 engine;
+    Counts counts(cell(GetParam()));
+    for (std::int64_t i = 0; i < draws; ++i) {
+        const auto value = static_cast<std::uint8_t>(engine());
+        ++counts.at(cell(value % GetParam()));
+    }
+    EXPECT_LT(ChiSquare::pValue(counts), ChiSquare::significance)
+        << "statistic " << ChiSquare::statistic(counts);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfBound, BiasedIndex, testing::Values(3, 10, 69, 75, 76, 100),
+                         testing::PrintToStringParamName());
+
+TEST(BiasedShuffle, WithPartnersFromTheWholeListIsNoticed)
+{
+    std::mt19937_64 engine;
+    Counts counts(24);
+    for (std::int64_t i = 0; i < 240'000; ++i) {
+        std::string order = "abcd";
+        for (char& element : order)
+            std::swap(element, order.at(engine() % 4));
+        ++counts.at(permutationNumber(order));
+    }
+    EXPECT_LT(ChiSquare::pValue(counts), ChiSquare::significance);
+}
+
+TEST(BiasedShuffle, ThatNeverKeepsAnElementIsNoticed)
+{
+    std::mt19937_64 engine;
+    Counts counts(24);
+    for (std::int64_t i = 0; i < 240'000; ++i) {
+        std::string order = "abcd";
+        for (std::size_t last = 3; last >= 1; --last)
+            std::swap(order.at(last), order.at(engine() % last));
+        ++counts.at(permutationNumber(order));
+    }
+    EXPECT_LT(ChiSquare::pValue(counts), ChiSquare::significance);
+}
+
+} // namespace
