@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "ViewModel/GeneratorViewModel.h"
+
+#include "Model/GeneratorError.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 startingLength = 10;
+constexpr qsizetype historyLimit = 6;
+
+} // namespace
+
+GeneratorViewModel::GeneratorViewModel(QObject* parent)
+    : QObject(parent)
+{
+    m_settings.length = startingLength;
+    generate();
+}
+
+void GeneratorViewModel::setSettings(const GeneratorSettings& settings)
+{
+    m_settings = settings;
+    Q_EMIT settingsChanged();
+}
+
+PasswordStrength GeneratorViewModel::strength() const
+{
+    return m_generator.strength(m_entropy);
+}
+
+void GeneratorViewModel::setErrorPresented(bool presented)
+{
+    if (!presented)
+        setErrorMessage(std::nullopt);
+}
+
+void GeneratorViewModel::generate()
+{
+    try {
+        const QString value = m_generator.generate(m_settings);
+        setGenerated(value);
+        setErrorMessage(std::nullopt);
+        remember(value);
+    } catch (const GeneratorError& error) {
+        setErrorMessage(error.errorDescription());
+    }
+}
+
+void GeneratorViewModel::useFromHistory(const QString& value)
+{
+    setGenerated(value);
+}
+
+void GeneratorViewModel::setGenerated(const QString& value)
+{
+    m_generated = value;
+    Q_EMIT generatedChanged();
+    m_entropy = m_generator.estimatedEntropy(value, m_settings);
+    Q_EMIT entropyChanged();
+}
+
+void GeneratorViewModel::setErrorMessage(const std::optional<QString>& message)
+{
+    m_errorMessage = message;
+    Q_EMIT errorMessageChanged();
+}
+
+void GeneratorViewModel::remember(const QString& value)
+{
+    if (!m_history.isEmpty() && m_history.constFirst() == value)
+        return;
+    m_history.prepend(value);
+    m_history.resize(std::min(m_history.size(), historyLimit));
+    Q_EMIT historyChanged();
+}

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/GeneratorSettings.h"
+#include "Model/PasswordStrength.h"
+#include "Services/SecureGenerator.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+
+/// The state behind the main window, for one run of the program: the settings, the secret they
+/// yielded, and the secrets before it.
+///
+/// Every assignment to a property emits its signal, also where the value stays the same. All calls
+/// belong on the user-interface thread.
+class GeneratorViewModel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(
+        GeneratorSettings settings READ settings WRITE setSettings NOTIFY settingsChanged FINAL)
+    Q_PROPERTY(QString generated READ generated NOTIFY generatedChanged FINAL)
+    Q_PROPERTY(double entropy READ entropy NOTIFY entropyChanged FINAL)
+    Q_PROPERTY(QStringList history READ history NOTIFY historyChanged FINAL)
+    Q_PROPERTY(QString errorMessage READ errorText NOTIFY errorMessageChanged FINAL)
+    Q_PROPERTY(bool errorPresented READ errorPresented WRITE setErrorPresented NOTIFY
+                   errorMessageChanged FINAL)
+    Q_PROPERTY(bool copied READ copied NOTIFY copiedChanged FINAL)
+
+public:
+    /// Starts with a length of 10 and a first secret.
+    explicit GeneratorViewModel(QObject* parent = nullptr);
+
+    /// What the next `generate` uses.
+    [[nodiscard]] const GeneratorSettings& settings() const { return m_settings; }
+    /// Stores the settings and generates nothing: that is for whoever watches them.
+    void setSettings(const GeneratorSettings& settings);
+
+    /// The secret on show.
+    [[nodiscard]] const QString& generated() const { return m_generated; }
+    /// The estimated entropy of `generated`, in bits.
+    [[nodiscard]] double entropy() const { return m_entropy; }
+    /// The rating of `entropy`; it changes with it.
+    [[nodiscard]] PasswordStrength strength() const;
+    /// The secrets of this run, newest first, at most 6. A repeat of the newest is not added.
+    [[nodiscard]] const QStringList& history() const { return m_history; }
+
+    /// The German message of the last generation, absent if it succeeded.
+    [[nodiscard]] const std::optional<QString>& errorMessage() const { return m_errorMessage; }
+    /// `errorMessage`, or the empty text.
+    [[nodiscard]] QString errorText() const { return m_errorMessage.value_or(QString()); }
+    /// Whether there is an error to show. Writing false takes the message back, and writing true
+    /// does nothing: only a failed generation brings one up.
+    [[nodiscard]] bool errorPresented() const { return m_errorMessage.has_value(); }
+    void setErrorPresented(bool presented);
+
+    /// Whether the confirmation of a copy is on show.
+    [[nodiscard]] bool copied() const { return m_copied; }
+
+    /// Draws a new secret by the current settings. On success sets `generated`, `entropy`,
+    /// `errorMessage` and `history`, in this order. On failure sets `errorMessage` alone: the
+    /// secret before it stays.
+    Q_INVOKABLE void generate();
+
+    /// Shows `value` again, rated by the current settings whatever it was made with. The history
+    /// keeps its order.
+    Q_INVOKABLE void useFromHistory(const QString& value);
+
+Q_SIGNALS:
+    void settingsChanged();
+    void generatedChanged();
+    void entropyChanged();
+    void historyChanged();
+    void errorMessageChanged();
+    void copiedChanged();
+
+private:
+    void setGenerated(const QString& value);
+    void setErrorMessage(const std::optional<QString>& message);
+    void remember(const QString& value);
+
+    GeneratorSettings m_settings;
+    QString m_generated;
+    double m_entropy = 0;
+    QStringList m_history;
+    std::optional<QString> m_errorMessage;
+    bool m_copied = false;
+    SecureGenerator m_generator;
+};
