@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+pragma Singleton
+import QtQuick
+
+// The look in one place: text sizes in pixels at the default font size, and colours of both schemes.
+QtObject {
+    id: style
+
+    readonly property SystemPalette palette: SystemPalette {
+    }
+    readonly property bool dark: palette.window.hslLightness < 0.5
+
+    readonly property int title2Size: 17
+    readonly property int headlineSize: 13
+    readonly property int bodySize: 13
+    readonly property int captionSize: 11
+
+    readonly property int longValueSize: 22
+    readonly property int valueSize: 28
+
+    readonly property color window: dark ? "#323232" : "#ececec"
+    readonly property color surface: dark ? "#262626" : "#fafafa"
+    readonly property color divider: dark ? "#4a4a4a" : "#d2d2d2"
+    readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
+    readonly property color secondaryText: dark ? "#b4b4b8" : "#5a5a5f"
+
+    readonly property color accent: dark ? "#0a84ff" : "#007aff"
+    // The accent with white text on it: darker than the accent itself, for the text's contrast.
+    readonly property color accentFill: dark ? "#0a6fe0" : "#0068e0"
+    readonly property color accentFillPressed: dark ? "#0a5cbb" : "#0057bd"
+    readonly property color accentText: "#ffffff"
+    readonly property color scrim: dark ? "#80000000" : "#40000000"
+    readonly property color focusRing: accent
+}

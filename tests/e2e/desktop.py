@@ -1,0 +1,186 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""A desktop of its own for the program under test: X server, window manager, buses, empty home."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import time
+
+DEADLINE = 20.0
+"""Seconds after which an awaited event counts as missing. Passing tests never wait this long."""
+
+PROGRAM = os.environ["MORVANE_PROGRAM"]
+ARTIFACTS = pathlib.Path(os.environ["MORVANE_ARTIFACTS"])
+
+
+def until(condition, what):
+    """Returns the first true result of `condition`, or fails after the deadline naming `what`."""
+    end = time.monotonic() + DEADLINE
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise AssertionError(f"nothing came of this within {DEADLINE:.0f} s: {what}")
+        time.sleep(0.02)
+
+
+class Desktop:
+    """Starts everything on creation; `close` ends exactly what was started."""
+
+    def __init__(self):
+        self._processes = []
+        self._folder = pathlib.Path(tempfile.mkdtemp(prefix="morvane-e2e-"))
+        self.home = self._folder / "home"
+        self.home.mkdir()
+        runtime = self._folder / "runtime"
+        runtime.mkdir(mode=0o700)
+        # AT-SPI in this very process has to find the same buses, hence the real environment.
+        for name in ("WAYLAND_DISPLAY", "DISPLAY", "AT_SPI_BUS_ADDRESS"):
+            os.environ.pop(name, None)
+        os.environ.update(
+            HOME=str(self.home),
+            XDG_RUNTIME_DIR=str(runtime),
+            XDG_CACHE_HOME=str(self._folder / "cache-of-the-tools"),
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            LC_ALL="C.UTF-8",
+        )
+        os.environ["DISPLAY"] = ":" + self._announced(
+            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "1600x1200x24", "-nolisten", "tcp"]
+        )
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
+            ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"]
+        )
+        self._start(["openbox"])
+        until(self._window_manager_runs, "a window manager")
+
+    def _start(self, command, **options):
+        process = subprocess.Popen(
+            command, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options
+        )
+        self._processes.append(process)
+        return process
+
+    def _announced(self, command):
+        """Starts `command`, which writes one line to the descriptor {fd} once it is ready."""
+        reading, writing = os.pipe()
+        self._start([part.format(fd=writing) for part in command], pass_fds=[writing])
+        os.close(writing)
+        with os.fdopen(reading) as pipe:
+            line = pipe.readline().strip()
+        if not line:
+            raise AssertionError(f"did not start: {command[0]}")
+        return line
+
+    @staticmethod
+    def _window_manager_runs():
+        answer = output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        return "window id" in answer
+
+    def screenshot(self, name):
+        ARTIFACTS.mkdir(parents=True, exist_ok=True)
+        file = ARTIFACTS / f"{name}.png"
+        subprocess.run(["import", "-window", "root", str(file)], check=True)
+        return file
+
+    def close(self):
+        for process in reversed(self._processes):
+            process.terminate()
+            process.wait()
+        shutil.rmtree(self._folder, ignore_errors=True)
+
+
+class Program:
+    """The program under test. Use it in a `with` block, which ends it."""
+
+    def __init__(self, desktop, preload=None, with_display=True):
+        self.desktop = desktop
+        environment = dict(os.environ)
+        environment.pop("XDG_CACHE_HOME")
+        if preload:
+            environment["LD_PRELOAD"] = preload
+            # In the sanitizer build, another library in front of the sanitizer's is intended.
+            environment["ASAN_OPTIONS"] = ":".join(
+                [os.environ.get("ASAN_OPTIONS", ""), "verify_asan_link_order=0"]
+            )
+        if not with_display:
+            environment.pop("DISPLAY")
+        self.process = subprocess.Popen(
+            [PROGRAM],
+            env=environment,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            text=True,
+        )
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.process.poll() is None:
+            self.process.terminate()
+        self.process.communicate()
+
+    def ended(self):
+        """Waits for the end; returns the exit status and what was written to standard error."""
+        _, errors = self.process.communicate(timeout=DEADLINE)
+        return self.process.returncode, errors
+
+    def window(self):
+        """The X window, once it is on the screen."""
+        found = until(
+            lambda: output(
+                "xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)
+            ).split(),
+            "a visible window",
+        )
+        return found[-1]
+
+    def accessible(self):
+        """The root of the program's accessible objects."""
+        import pyatspi
+
+        def application():
+            desktop = pyatspi.Registry.getDesktop(0)
+            for child in desktop:
+                if child is not None and child.get_process_id() == self.process.pid:
+                    return child
+            return None
+
+        return until(application, "the program on the accessibility bus")
+
+    def find(self, predicate, what):
+        """The first showing accessible object for which `predicate` holds."""
+        root = self.accessible()
+        return until(lambda: first(root, predicate), what)
+
+
+def output(*command):
+    """Standard output of `command`, or what it wrote before it failed."""
+    return subprocess.run(
+        command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False
+    ).stdout
+
+
+def first(accessible, predicate):
+    """Depth-first search below `accessible` for a showing object."""
+    import pyatspi
+    from gi.repository import GLib
+
+    try:
+        if accessible.getState().contains(pyatspi.STATE_SHOWING) and predicate(accessible):
+            return accessible
+        children = list(accessible)
+    except GLib.Error:  # gone while it was looked at
+        return None
+    for child in children:
+        if child is not None:
+            found = first(child, predicate)
+            if found is not None:
+                return found
+    return None

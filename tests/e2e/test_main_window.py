@@ -1,0 +1,104 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""The main window as a person meets it: real window, real keys, accessibility bus."""
+
+import os
+import re
+import subprocess
+import unittest
+
+from desktop import Desktop, Program, first, output, until
+
+FAILING_RANDOM = os.environ["MORVANE_FAILING_RANDOM"]
+
+LOOK_ALIKES = "Il1O0o"
+
+
+def is_password(accessible):
+    return re.fullmatch(r"[A-Za-z0-9!@#$%&*+\-=?_~]{10}", accessible.name) is not None
+
+
+def is_alert(accessible):
+    return accessible.name == "Einstellung prüfen"
+
+
+class MainWindow(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Desktop()
+        cls.addClassCleanup(cls.desktop.close)
+
+    def test_shows_a_password_of_ten_characters(self):
+        with Program(self.desktop) as program:
+            password = program.find(is_password, "a password of ten characters").name
+            self.assertFalse(set(password) & set(LOOK_ALIKES), password)
+            self.assertIsNone(first(program.accessible(), is_alert))
+
+    def test_every_start_shows_another_password(self):
+        passwords = set()
+        for _ in range(3):
+            with Program(self.desktop) as program:
+                passwords.add(program.find(is_password, "a password").name)
+        self.assertEqual(len(passwords), 3)
+
+    def test_cannot_be_made_smaller_than_its_content_but_larger(self):
+        with Program(self.desktop) as program:
+            window = program.window()
+            self.assertIn(
+                "program specified minimum size: 760 by 610",
+                output("xprop", "-id", window, "WM_NORMAL_HINTS"),
+            )
+            self.resize(window, 300, 200, "760x610")
+            self.resize(window, 1100, 900, "1100x900")
+
+    def resize(self, window, width, height, expected):
+        subprocess.run(["xdotool", "windowsize", window, str(width), str(height)], check=True)
+        until(
+            lambda: f"-geometry {expected}" in output("xwininfo", "-id", window),
+            f"a window of {expected}",
+        )
+
+    def test_closing_the_window_ends_the_program(self):
+        with Program(self.desktop) as program:
+            window = program.window()
+            program.find(is_password, "a password")
+            subprocess.run(["wmctrl", "-i", "-c", window], check=True)
+            status, errors = program.ended()
+            self.assertEqual((status, errors), (0, ""))
+
+    def test_leaves_nothing_in_the_home_folder(self):
+        with Program(self.desktop) as program:
+            window = program.window()
+            program.find(is_password, "a password")
+            subprocess.run(["wmctrl", "-i", "-c", window], check=True)
+            program.ended()
+        self.assertEqual(sorted(self.desktop.home.rglob("*")), [])
+
+    def test_a_failing_random_source_is_shown_and_dismissed(self):
+        with Program(self.desktop, preload=FAILING_RANDOM) as program:
+            program.window()
+            program.find(is_alert, "the alert")
+            program.find(
+                lambda a: a.name
+                == "Der sichere Zufallsgenerator von macOS konnte nicht verwendet werden.",
+                "the message",
+            )
+            self.desktop.screenshot("alert")
+            program.find(lambda a: a.name == "OK", "the button")
+            subprocess.run(["xdotool", "key", "Return"], check=True)
+            until(lambda: first(program.accessible(), is_alert) is None, "the end of the alert")
+            self.assertIsNone(program.process.poll())
+
+    def test_says_so_where_there_is_no_display(self):
+        with Program(self.desktop, with_display=False) as program:
+            status, errors = program.ended()
+        self.assertEqual(status, 1)
+        self.assertTrue(
+            errors.endswith("Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.\n"),
+            errors,
+        )
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
