@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+
+# What all scripts begin with: strict mode, the top folder as the current one, no questions asked.
+# Sourced by the other scripts.
+
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# A closed standard input would become the first file that anything opens.
+exec </dev/null
+
+# shellcheck source=scripts/packages.sh
+source scripts/packages.sh
+
+# Where Debian keeps qmllint and qmlformat of Qt 6; elsewhere on the search path, wrappers of these
+# names look for them among the tools of whatever Qt is the default.
+PATH=/usr/lib/qt6/bin:$PATH
+
+fail() {
+    printf '%s: %s\n' "$0" "$1" >&2
+    exit 1
+}
+
+# own_sources EXTENSION... prints the paths of our files with these endings, each ended by NUL.
+own_sources() {
+    local extension
+    local -a names=()
+    for extension in "$@"; do
+        names+=(-o -name "*.$extension")
+    done
+    find src tests -type f '(' "${names[@]:1}" ')' -print0 | sort -z
+}
