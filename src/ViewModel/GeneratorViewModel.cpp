@@ -27,6 +27,14 @@ void GeneratorViewModel::setSettings(const GeneratorSettings& settings)
     Q_EMIT settingsChanged();
 }
 
+QStringList GeneratorViewModel::modeTitles()
+{
+    QStringList titles;
+    for (const GeneratorMode mode : allGeneratorModes)
+        titles << rawValue(mode);
+    return titles;
+}
+
 PasswordStrength GeneratorViewModel::strength() const
 {
     return m_generator.strength(m_entropy);

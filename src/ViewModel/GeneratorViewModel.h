@@ -26,6 +26,7 @@ class GeneratorViewModel : public QObject
 
     Q_PROPERTY(
         GeneratorSettings settings READ settings WRITE setSettings NOTIFY settingsChanged FINAL)
+    Q_PROPERTY(QList<QString> modeTitles READ modeTitles CONSTANT FINAL)
     Q_PROPERTY(QString generated READ generated NOTIFY generatedChanged FINAL)
     Q_PROPERTY(double entropy READ entropy NOTIFY entropyChanged FINAL)
     Q_PROPERTY(QStringList history READ history NOTIFY historyChanged FINAL)
@@ -42,6 +43,9 @@ public:
     [[nodiscard]] const GeneratorSettings& settings() const { return m_settings; }
     /// Stores the settings and generates nothing: that is for whoever watches them.
     void setSettings(const GeneratorSettings& settings);
+
+    /// The labels of all modes, in the order of their values.
+    [[nodiscard]] static QStringList modeTitles();
 
     /// The secret on show.
     [[nodiscard]] const QString& generated() const { return m_generated; }

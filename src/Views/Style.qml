@@ -14,6 +14,7 @@ QtObject {
     readonly property int title2Size: 17
     readonly property int headlineSize: 13
     readonly property int bodySize: 13
+    readonly property int calloutSize: 12
     readonly property int captionSize: 11
 
     readonly property int longValueSize: 22
@@ -24,6 +25,14 @@ QtObject {
     readonly property color divider: dark ? "#4a4a4a" : "#d2d2d2"
     readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
     readonly property color secondaryText: dark ? "#b4b4b8" : "#5a5a5f"
+
+    readonly property color controlTrack: dark ? "#5a5a5d" : "#c8c8cc"
+    readonly property color controlBorder: dark ? "#1f1f1f" : "#b4b4b8"
+    readonly property color controlFill: dark ? "#454547" : "#ffffff"
+    readonly property color segment: dark ? "#636366" : "#ffffff"
+    readonly property color segmentTrack: dark ? "#29292b" : "#dadade"
+    readonly property color knob: dark ? "#e6e6e8" : "#ffffff"
+    readonly property color knobPressed: dark ? "#cfcfd2" : "#f0f0f0"
 
     readonly property color accent: dark ? "#0a84ff" : "#007aff"
     // The accent with white text on it: darker than the accent itself, for the text's contrast.

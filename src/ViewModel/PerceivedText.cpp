@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "ViewModel/PerceivedText.h"
+
+#include "Model/UnicodeText.h"
+
+int PerceivedText::count(const QString& text)
+{
+    return static_cast<int>(UnicodeText::perceivedCharacterCount(text));
+}
+
+QString PerceivedText::first(const QString& text, int count)
+{
+    return UnicodeText::firstPerceivedCharacters(text, count);
+}

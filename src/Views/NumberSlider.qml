@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+// A whole number to choose, with its name and its value above the slider.
+Column {
+    id: root
+
+    required property real from
+    required property string name
+    required property real to
+    required property real value
+
+    signal chosen(int number)
+
+    spacing: 8
+
+    Item {
+        height: title.implicitHeight
+        width: parent.width
+
+        Text {
+            id: title
+
+            color: Style.text
+            font.pixelSize: Style.bodySize
+            text: root.name
+            textFormat: Text.PlainText
+        }
+
+        Text {
+            anchors.right: parent.right
+            color: Style.secondaryText
+            font.pixelSize: Style.bodySize
+            objectName: "number"
+            text: root.value
+            textFormat: Text.PlainText
+        }
+    }
+
+    StepSlider {
+        from: root.from
+        objectName: "slider"
+        to: root.to
+        value: root.value
+        width: parent.width
+
+        Accessible.name: root.name
+
+        onEndChosen: end => root.chosen(end)
+        // Also when a screen reader sets it, which `moved` does not tell.
+        onValueChanged: {
+            if (value !== root.value)
+                root.chosen(Math.trunc(value));
+        }
+    }
+}

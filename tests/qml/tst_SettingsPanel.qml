@@ -1,0 +1,310 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtTest
+import Morvane.Views
+
+TestCase {
+    id: testCase
+
+    property ContentView content: null
+
+    function control(name: string): Item {
+        const item = findChild(content, name) as Item;
+        verify(item, name);
+        return item;
+    }
+
+    function slider(name: string): Item {
+        return findChild(control(name), "slider") as Item;
+    }
+
+    function number(name: string): string {
+        return findChild(control(name), "number").text;
+    }
+
+    function mode(): int {
+        return content.model.settings.mode; // qmllint disable type
+    }
+
+    function showPhraseSettings() {
+        content.model.settings.mode = 1;
+        generations.clear();
+    }
+
+    function init() {
+        content = contentComponent.createObject(testCase, {
+                "width": 760,
+                "height": 610
+            }) as ContentView;
+        verify(waitForRendering(content));
+        generations.target = content.model;
+        generations.clear();
+    }
+
+    function cleanup() {
+        generations.target = null;
+        content.destroy();
+        content = null;
+    }
+
+    function test_thePickerSwitchesTheMode() {
+        const segments = content.model.modeTitles;
+        compare(segments, ["Passwort", "Passphrase"]);
+        const picker = control("modePicker");
+        mouseClick(picker, picker.width * 0.75);
+        compare(mode(), 1);
+        compare(generations.count, 1);
+        compare(content.model.generated.split("-").length, 6);
+        verify(findChild(content, "wordCount"));
+        verify(!findChild(content, "length"));
+        mouseClick(picker, picker.width * 0.75);
+        compare(generations.count, 1);
+        mouseClick(picker, picker.width * 0.25);
+        compare(mode(), 0);
+        compare(generations.count, 2);
+        verify(!findChild(content, "wordCount"));
+        verify(findChild(content, "length"));
+    }
+
+    function test_thePickerFollowsTheArrowKeys() {
+        const picker = control("modePicker");
+        mouseClick(picker, picker.width * 0.25);
+        keyClick(Qt.Key_Left);
+        compare(mode(), 0);
+        keyClick(Qt.Key_Right);
+        compare(mode(), 1);
+        keyClick(Qt.Key_Right);
+        compare(mode(), 1);
+        keyClick(Qt.Key_Left);
+        compare(mode(), 0);
+        compare(generations.count, 2);
+    }
+
+    function test_switchingTheModeKeepsTheOtherModesSettings() {
+        content.model.settings.length = 33;
+        content.model.settings.symbols = false;
+        content.model.settings.mode = 1;
+        content.model.settings.wordCount = 7;
+        content.model.settings.mode = 0;
+        compare(number("length"), "33");
+        compare(control("symbols").checked, false);
+        content.model.settings.mode = 1;
+        compare(number("wordCount"), "7");
+    }
+
+    function test_sliders_data() {
+        return [{
+                "tag": "length",
+                "mode": 0,
+                "from": 8,
+                "start": 10,
+                "to": 64
+            }, {
+                "tag": "wordCount",
+                "mode": 1,
+                "from": 3,
+                "start": 5,
+                "to": 8
+            }];
+    }
+
+    function test_sliders(data) {
+        content.model.settings.mode = data.mode;
+        generations.clear();
+        slider(data.tag).forceActiveFocus();
+        compare(number(data.tag), String(data.start));
+        keyClick(Qt.Key_Right);
+        compare(content.model.settings[data.tag], data.start + 1);
+        compare(number(data.tag), String(data.start + 1));
+        compare(generations.count, 1);
+        keyClick(Qt.Key_Left);
+        compare(content.model.settings[data.tag], data.start);
+        keyClick(Qt.Key_End);
+        compare(content.model.settings[data.tag], data.to);
+        compare(number(data.tag), String(data.to));
+        compare(generations.count, 3);
+        keyClick(Qt.Key_Right);
+        keyClick(Qt.Key_End);
+        compare(generations.count, 3);
+        keyClick(Qt.Key_Home);
+        compare(content.model.settings[data.tag], data.from);
+        keyClick(Qt.Key_Left);
+        compare(content.model.settings[data.tag], data.from);
+        compare(generations.count, 4);
+    }
+
+    function test_draggingASliderRegeneratesOncePerNewValue() {
+        const track = slider("length");
+        const values = [];
+        const note = () => values.push(content.model.settings.length);
+        content.model.generatedChanged.connect(note);
+        mousePress(track, 9 + (track.width - 18) * 2 / 56, track.height / 2);
+        for (let x = 0; x <= track.width; ++x)
+            mouseMove(track, x, track.height / 2);
+        mouseRelease(track, track.width, track.height / 2);
+        content.model.generatedChanged.disconnect(note);
+        compare(content.model.settings.length, 64);
+        compare(content.model.generated.length, 64);
+        for (let i = 1; i < values.length; ++i)
+            verify(values[i] !== values[i - 1], values);
+        const seen = values.slice(values.indexOf(8));
+        compare(seen, Array.from({
+                    "length": 57
+                }, (unused, i) => 8 + i));
+    }
+
+    function test_switches_data() {
+        return [{
+                "tag": "lowercase",
+                "mode": 0,
+                "label": "Kleinbuchstaben"
+            }, {
+                "tag": "uppercase",
+                "mode": 0,
+                "label": "Großbuchstaben"
+            }, {
+                "tag": "numbers",
+                "mode": 0,
+                "label": "Zahlen"
+            }, {
+                "tag": "symbols",
+                "mode": 0,
+                "label": "Sonderzeichen"
+            }, {
+                "tag": "avoidAmbiguous",
+                "mode": 0,
+                "label": "Ähnliche Zeichen vermeiden"
+            }, {
+                "tag": "requireEveryGroup",
+                "mode": 0,
+                "label": "Jede Gruppe muss vorkommen"
+            }, {
+                "tag": "capitalizeWords",
+                "mode": 1,
+                "label": "Wörter groß beginnen"
+            }, {
+                "tag": "appendNumber",
+                "mode": 1,
+                "label": "Zahl anhängen"
+            }];
+    }
+
+    function test_switches(data) {
+        content.model.settings.mode = data.mode;
+        generations.clear();
+        const toggle = control(data.tag);
+        const before = content.model.settings[data.tag];
+        compare(toggle.text, data.label);
+        compare(toggle.checked, before);
+        mouseClick(toggle);
+        compare(content.model.settings[data.tag], !before);
+        compare(generations.count, 1);
+        toggle.forceActiveFocus();
+        keyClick(Qt.Key_Space);
+        compare(content.model.settings[data.tag], before);
+        compare(generations.count, 2);
+        content.model.settings[data.tag] = !before;
+        compare(toggle.checked, !before);
+    }
+
+    function test_allGroupsMayBeSwitchedOff() {
+        for (const name of ["lowercase", "uppercase", "numbers", "symbols"])
+            mouseClick(control(name));
+        tryVerify(() => findChild(content, "errorAlert").opened);
+        keyClick(Qt.Key_Return);
+        tryVerify(() => !findChild(content, "errorAlert").visible);
+        mouseClick(control("numbers"));
+        verify(!content.model.errorPresented);
+        verify(/^[2-9]{10}$/.test(content.model.generated), content.model.generated);
+    }
+
+    function test_separatorKeepsThreePerceivedCharacters_data() {
+        return [{
+                "tag": "six letters",
+                "typed": "abcdef",
+                "kept": "abc",
+                "regenerations": 2
+            }, {
+                "tag": "four hyphens",
+                "typed": "----",
+                "kept": "---",
+                "regenerations": 2
+            }, {
+                "tag": "two hyphens",
+                "typed": "--",
+                "kept": "--",
+                "regenerations": 1
+            }, {
+                "tag": "dot between blanks",
+                "typed": " · ",
+                "kept": " · ",
+                "regenerations": 1
+            }, {
+                "tag": "nothing",
+                "typed": "",
+                "kept": "",
+                "regenerations": 1
+            }, {
+                "tag": "flags",
+                "typed": "🇩🇪🇫🇷🇮🇹🇪🇸",
+                "kept": "🇩🇪🇫🇷🇮🇹",
+                "regenerations": 2
+            }, {
+                "tag": "emoji with modifiers",
+                "typed": "👍🏽👍🏽👍🏽",
+                "kept": "👍🏽👍🏽👍🏽",
+                "regenerations": 1
+            }, {
+                "tag": "combining marks",
+                "typed": "e\u0301o\u0308a\u0302u",
+                "kept": "e\u0301o\u0308a\u0302",
+                "regenerations": 2
+            }];
+    }
+
+    function test_separatorKeepsThreePerceivedCharacters(data) {
+        showPhraseSettings();
+        content.model.settings.separator = data.typed;
+        compare(content.model.settings.separator, data.kept);
+        compare(control("separator").text, data.kept);
+        compare(generations.count, data.regenerations);
+        compare(content.model.generated.split(data.kept).length > 1, true);
+    }
+
+    function test_typingAFourthCharacterLeavesThree() {
+        showPhraseSettings();
+        const field = control("separator") as LineField;
+        compare(field.placeholderText, "Trennzeichen");
+        field.forceActiveFocus();
+        field.selectAll();
+        keyClick(Qt.Key_Delete);
+        compare(content.model.settings.separator, "");
+        for (const key of [Qt.Key_A, Qt.Key_B, Qt.Key_C, Qt.Key_D])
+            keyClick(key);
+        compare(field.text, "abc");
+        compare(content.model.settings.separator, "abc");
+        keyClick(Qt.Key_Backspace);
+        compare(content.model.settings.separator, "ab");
+    }
+
+    height: 800
+    name: "SettingsPanel"
+    visible: true
+    when: windowShown
+    width: 1200
+
+    Component {
+        id: contentComponent
+
+        ContentView {
+            focus: true
+        }
+    }
+
+    SignalSpy {
+        id: generations
+
+        signalName: "generatedChanged"
+    }
+}
