@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // Random settings, and for each of them every promise that its result has to keep. A failure is
-// reproduced by setting MORVANE_PROPERTY_SEED to the seed that the test printed.
+// reproduced by setting MORVANE_PROPERTY_SEED to the number that the test printed.
 
 #include "Model/GeneratorError.h"
 #include "Printing.h"
