@@ -29,7 +29,9 @@ class GeneratorViewModel : public QObject
     Q_PROPERTY(QList<QString> modeTitles READ modeTitles CONSTANT FINAL)
     Q_PROPERTY(QString generated READ generated NOTIFY generatedChanged FINAL)
     Q_PROPERTY(double entropy READ entropy NOTIFY entropyChanged FINAL)
-    Q_PROPERTY(QStringList history READ history NOTIFY historyChanged FINAL)
+    Q_PROPERTY(int strengthLevel READ strengthLevel NOTIFY entropyChanged FINAL)
+    Q_PROPERTY(QString strengthTitle READ strengthTitle NOTIFY entropyChanged FINAL)
+    Q_PROPERTY(QList<QString> history READ history NOTIFY historyChanged FINAL)
     Q_PROPERTY(QString errorMessage READ errorText NOTIFY errorMessageChanged FINAL)
     Q_PROPERTY(bool errorPresented READ errorPresented WRITE setErrorPresented NOTIFY
                    errorMessageChanged FINAL)
@@ -53,6 +55,10 @@ public:
     [[nodiscard]] double entropy() const { return m_entropy; }
     /// The rating of `entropy`; it changes with it.
     [[nodiscard]] PasswordStrength strength() const;
+    /// `strength` as a number from 0, the weakest, to 3.
+    [[nodiscard]] int strengthLevel() const { return static_cast<int>(strength()); }
+    /// The German word for `strength`.
+    [[nodiscard]] QString strengthTitle() const { return title(strength()); }
     /// The secrets of this run, newest first, at most 6. A repeat of the newest is not added.
     [[nodiscard]] const QStringList& history() const { return m_history; }
 

@@ -48,9 +48,10 @@ Column {
         Accessible.name: root.name
 
         onEndChosen: end => root.chosen(end)
-        // Also when a screen reader sets it, which `moved` does not tell.
+        // Also when a screen reader sets it, which `moved` does not tell. But not when the slider
+        // itself cannot show what it was given: the ends are no rule for the settings.
         onValueChanged: {
-            if (value !== root.value)
+            if (value !== Math.min(Math.max(root.value, from), to))
                 root.chosen(Math.trunc(value));
         }
     }

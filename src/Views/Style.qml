@@ -29,6 +29,9 @@ QtObject {
     readonly property color controlTrack: dark ? "#5a5a5d" : "#c8c8cc"
     readonly property color controlBorder: dark ? "#1f1f1f" : "#b4b4b8"
     readonly property color controlFill: dark ? "#454547" : "#ffffff"
+    readonly property color controlPressed: dark ? "#39393b" : "#ececec"
+    readonly property color box: dark ? "#303030" : "#f0f0f2"
+    readonly property color rowHighlight: dark ? "#3d3d40" : "#e2e2e6"
     readonly property color segment: dark ? "#636366" : "#ffffff"
     readonly property color segmentTrack: dark ? "#29292b" : "#dadade"
     readonly property color knob: dark ? "#e6e6e8" : "#ffffff"
@@ -41,4 +44,11 @@ QtObject {
     readonly property color accentText: "#ffffff"
     readonly property color scrim: dark ? "#80000000" : "#40000000"
     readonly property color focusRing: accent
+
+    // The shades of red, orange, blue and green in which text is legible on the surface.
+    readonly property list<color> strengthColors: dark ? ["#ff6961", "#ffb340", "#5eb0ff", "#32d74b"] : ["#c9231a", "#a35200", "#0062cc", "#1a7a2e"]
+
+    function strengthColor(level: int): color {
+        return strengthColors[level];
+    }
 }

@@ -134,6 +134,16 @@ TestCase {
         compare(generations.count, 4);
     }
 
+    function test_slidersDoNotChangeASettingBeyondTheirEnds() {
+        content.model.settings.length = 6;
+        compare(content.model.settings.length, 6);
+        compare(number("length"), "6");
+        compare(generations.count, 1);
+        content.model.settings.length = 70;
+        compare(content.model.settings.length, 70);
+        compare(generations.count, 2);
+    }
+
     function test_draggingASliderRegeneratesOncePerNewValue() {
         const track = slider("length");
         const values = [];

@@ -326,6 +326,8 @@ TEST_F(GeneratorViewModelTest, StrengthFollowsTheEntropy)
     model.setSettings(settings);
     model.generate();
     EXPECT_EQ(model.strength(), PasswordStrength::strong);
+    EXPECT_EQ(model.strengthLevel(), 3);
+    EXPECT_EQ(model.strengthTitle(), QStringLiteral("Stark"));
     model.setSettings(singleWord());
     generateWord(indexOfEule);
     EXPECT_EQ(model.strength(), PasswordStrength::weak);
