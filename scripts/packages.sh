@@ -14,6 +14,7 @@ packages[build]='
     ninja-build
     qt6-base-dev
     qt6-declarative-dev
+    qt6-svg-dev
 '
 
 # The xcb platform plugin comes with Qt's libraries, the Wayland one does not.

@@ -4,10 +4,23 @@
 #include "ViewModel/GeneratorViewModel.h"
 
 #include "Model/GeneratorError.h"
+#include "Platform/Clipboard.h"
+#include "Platform/ContinuousClock.h"
+
+#include <QPointer>
 
 #include <algorithm>
+#include <chrono>
 
 namespace {
+
+namespace Clipboard = Platform::Clipboard;
+namespace ContinuousClock = Platform::ContinuousClock;
+
+using namespace std::chrono_literals;
+
+constexpr auto secretStaysOnClipboard = 30s;
+constexpr auto copyStaysConfirmed = 1400ms;
 
 constexpr qint64 startingLength = 10;
 constexpr qsizetype historyLimit = 6;
@@ -63,6 +76,24 @@ void GeneratorViewModel::useFromHistory(const QString& value)
     setGenerated(value);
 }
 
+void GeneratorViewModel::copyToClipboard()
+{
+    if (m_generated.isEmpty())
+        return;
+    Clipboard::setSecret(m_generated);
+    m_clipboardRevision = Clipboard::changeCount();
+    setCopied(true);
+    // Independent of this object: the clipboard outlives the window that filled it.
+    ContinuousClock::after(secretStaysOnClipboard, [revision = m_clipboardRevision] {
+        if (Clipboard::changeCount() == revision)
+            Clipboard::clear();
+    });
+    ContinuousClock::after(copyStaysConfirmed, [model = QPointer(this)] {
+        if (model)
+            model->setCopied(false);
+    });
+}
+
 void GeneratorViewModel::setGenerated(const QString& value)
 {
     m_generated = value;
@@ -75,6 +106,12 @@ void GeneratorViewModel::setErrorMessage(const std::optional<QString>& message)
 {
     m_errorMessage = message;
     Q_EMIT errorMessageChanged();
+}
+
+void GeneratorViewModel::setCopied(bool copied)
+{
+    m_copied = copied;
+    Q_EMIT copiedChanged();
 }
 
 void GeneratorViewModel::remember(const QString& value)

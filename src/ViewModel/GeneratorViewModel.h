@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
+#include <cstdint>
 #include <optional>
 
 /// The state behind the main window, for one run of the program: the settings, the secret they
@@ -31,6 +32,7 @@ class GeneratorViewModel : public QObject
     Q_PROPERTY(double entropy READ entropy NOTIFY entropyChanged FINAL)
     Q_PROPERTY(int strengthLevel READ strengthLevel NOTIFY entropyChanged FINAL)
     Q_PROPERTY(QString strengthTitle READ strengthTitle NOTIFY entropyChanged FINAL)
+    Q_PROPERTY(QString strengthSymbol READ strengthSymbol NOTIFY entropyChanged FINAL)
     Q_PROPERTY(QList<QString> history READ history NOTIFY historyChanged FINAL)
     Q_PROPERTY(QString errorMessage READ errorText NOTIFY errorMessageChanged FINAL)
     Q_PROPERTY(bool errorPresented READ errorPresented WRITE setErrorPresented NOTIFY
@@ -59,6 +61,8 @@ public:
     [[nodiscard]] int strengthLevel() const { return static_cast<int>(strength()); }
     /// The German word for `strength`.
     [[nodiscard]] QString strengthTitle() const { return title(strength()); }
+    /// The name of the symbol for `strength`.
+    [[nodiscard]] QString strengthSymbol() const { return systemImage(strength()); }
     /// The secrets of this run, newest first, at most 6. A repeat of the newest is not added.
     [[nodiscard]] const QStringList& history() const { return m_history; }
 
@@ -83,6 +87,12 @@ public:
     /// keeps its order.
     Q_INVOKABLE void useFromHistory(const QString& value);
 
+    /// Puts `generated` on the clipboard, sets `copied` for 1.4 seconds, and has the clipboard
+    /// emptied 30 seconds later, with or without this object, unless anybody wrote to it since.
+    /// Does nothing while `generated` is empty. Copying again neither ends nor prolongs what an
+    /// earlier copy has started.
+    Q_INVOKABLE void copyToClipboard();
+
 Q_SIGNALS:
     void settingsChanged();
     void generatedChanged();
@@ -94,6 +104,7 @@ Q_SIGNALS:
 private:
     void setGenerated(const QString& value);
     void setErrorMessage(const std::optional<QString>& message);
+    void setCopied(bool copied);
     void remember(const QString& value);
 
     GeneratorSettings m_settings;
@@ -102,5 +113,7 @@ private:
     QStringList m_history;
     std::optional<QString> m_errorMessage;
     bool m_copied = false;
+    /// The clipboard's change counter right after this object wrote to it last.
+    std::int64_t m_clipboardRevision = 0;
     SecureGenerator m_generator;
 };

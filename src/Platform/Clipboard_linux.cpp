@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Clipboard.h"
+
+#include <QByteArray>
+#include <QClipboard>
+#include <QCryptographicHash>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <memory>
+
+namespace Platform::Clipboard {
+
+namespace {
+
+std::unique_ptr<QMimeData> secretContents(const QString& text)
+{
+    auto contents = std::make_unique<QMimeData>();
+    contents->setText(text);
+    // Not another form of the text, but the mark by which clipboard managers know to leave it.
+    contents->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
+    return contents;
+}
+
+QByteArray fingerprint(const QString& text)
+{
+    return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
+}
+
+/// Neither X11 nor Wayland counts the changes of the clipboard, and Qt tells of some of them more
+/// than once, and of changes that are none. What can be relied on is whose contents it holds. So a
+/// change is what is written through here, and every loss of it.
+class CountedClipboard final : public QObject
+{
+public:
+    explicit CountedClipboard(QObject* parent)
+        : QObject(parent)
+    {
+        connect(m_clipboard, &QClipboard::dataChanged, this, [this] { noticeLoss(); });
+        m_soon.setSingleShot(true);
+        connect(&m_soon, &QTimer::timeout, this, [this] { clearAgain(); });
+    }
+
+    [[nodiscard]] std::int64_t changeCount() const { return m_changeCount; }
+
+    void setSecret(const QString& text)
+    {
+        stopWatching();
+        auto contents = secretContents(text);
+        replaceContents(contents.get());
+        m_written = fingerprint(text);
+        m_clipboard->setMimeData(contents.release());
+    }
+
+    void clear()
+    {
+        replaceContents(nullptr);
+        m_clipboard->clear();
+        watchForReturn();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::ApplicationActivate:
+        case QEvent::KeyPress:
+        case QEvent::MouseButtonPress:
+            // Later, when Qt has taken note of this event: a compositor asks for its number.
+            m_soon.start();
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void replaceContents(const QMimeData* contents)
+    {
+        m_contents = contents;
+        ++m_changeCount;
+    }
+
+    void noticeLoss()
+    {
+        if (m_contents && !(m_clipboard->ownsClipboard() && m_clipboard->mimeData() == m_contents))
+            replaceContents(nullptr);
+    }
+
+    void watchForReturn()
+    {
+        if (!m_written.isEmpty())
+            QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    void stopWatching()
+    {
+        QCoreApplication::instance()->removeEventFilter(this);
+        m_written.clear();
+    }
+
+    void clearAgain()
+    {
+        if (m_written.isEmpty())
+            return;
+        if (m_clipboard->ownsClipboard() || fingerprint(m_clipboard->text()) != m_written) {
+            stopWatching();
+            return;
+        }
+        replaceContents(nullptr);
+        m_clipboard->clear();
+    }
+
+    QClipboard* const m_clipboard = QGuiApplication::clipboard();
+    std::int64_t m_changeCount = 0;
+    /// What the clipboard holds of ours. Compared, never looked into.
+    const QMimeData* m_contents = nullptr;
+    /// Tells what was written last from all else, without keeping it.
+    QByteArray m_written;
+    QTimer m_soon;
+};
+
+CountedClipboard& clipboard()
+{
+    static QPointer<CountedClipboard> instance;
+    if (!instance) // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its parent owns it
+        instance = new CountedClipboard(QCoreApplication::instance());
+    return *instance;
+}
+
+} // namespace
+
+void setSecret(const QString& text)
+{
+    clipboard().setSecret(text);
+}
+
+void clear()
+{
+    clipboard().clear();
+}
+
+std::int64_t changeCount()
+{
+    return clipboard().changeCount();
+}
+
+} // namespace Platform::Clipboard

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/WindowChrome.h"
+
+#include <QWindow>
+
+namespace Platform::WindowChrome {
+
+void hideTitleBar(QWindow& window)
+{
+    window.setFlag(Qt::FramelessWindowHint);
+}
+
+bool isDrawnByProgram()
+{
+    return true;
+}
+
+} // namespace Platform::WindowChrome

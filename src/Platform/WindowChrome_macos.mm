@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/WindowChrome.h"
+
+#include <QWindow>
+
+#import <AppKit/AppKit.h>
+
+namespace Platform::WindowChrome {
+
+void hideTitleBar(QWindow& window)
+{
+    NSView* const view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+    NSWindow* const frame = view.window;
+    frame.titlebarAppearsTransparent = YES;
+    frame.titleVisibility = NSWindowTitleHidden;
+    frame.styleMask |= NSWindowStyleMaskFullSizeContentView;
+}
+
+bool isDrawnByProgram()
+{
+    return false;
+}
+
+} // namespace Platform::WindowChrome

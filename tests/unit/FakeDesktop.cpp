@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "FakeDesktop.h"
+
+#include "Platform/Clipboard.h"
+#include "Platform/ContinuousClock.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using std::chrono::milliseconds;
+
+struct ClipboardState
+{
+    std::optional<QString> text;
+    std::int64_t changeCount = 7;
+    int clears = 0;
+};
+
+struct ClockState
+{
+    milliseconds now{0};
+    /// Tasks of the same time keep their order.
+    std::multimap<milliseconds, std::function<void()>> tasks;
+};
+
+struct Observer
+{
+    QPointer<QObject> object;
+    std::function<void(const Platform::SystemAppearance&)> changed;
+};
+
+struct AppearanceState
+{
+    Platform::SystemAppearance appearance;
+    std::vector<Observer> observers;
+};
+
+template<typename State>
+State& state()
+{
+    static State instance;
+    return instance;
+}
+
+void replaceClipboard(std::optional<QString> text)
+{
+    auto& clipboard = state<ClipboardState>();
+    clipboard.text = std::move(text);
+    ++clipboard.changeCount;
+}
+
+} // namespace
+
+std::optional<QString> FakeClipboard::text()
+{
+    return state<ClipboardState>().text;
+}
+
+int FakeClipboard::clears()
+{
+    return state<ClipboardState>().clears;
+}
+
+void FakeClipboard::writeFromElsewhere(const QString& text)
+{
+    replaceClipboard(text);
+}
+
+void FakeClipboard::reset()
+{
+    state<ClipboardState>() = {};
+}
+
+void FakeClock::advance(milliseconds time)
+{
+    auto& clock = state<ClockState>();
+    const milliseconds end = clock.now + time;
+    while (!clock.tasks.empty() && clock.tasks.begin()->first <= end) {
+        const auto due = clock.tasks.extract(clock.tasks.begin());
+        clock.now = due.key();
+        due.mapped()();
+    }
+    clock.now = end;
+}
+
+std::size_t FakeClock::waiting()
+{
+    return state<ClockState>().tasks.size();
+}
+
+void FakeClock::reset()
+{
+    state<ClockState>() = {};
+}
+
+void FakeAppearance::set(const Platform::SystemAppearance& appearance)
+{
+    auto& [current, observers] = state<AppearanceState>();
+    if (appearance == std::exchange(current, appearance))
+        return;
+    std::erase_if(observers, [](const Observer& observer) { return !observer.object; });
+    for (const Observer& observer : observers)
+        observer.changed(appearance);
+}
+
+namespace Platform {
+
+void Clipboard::setSecret(const QString& text)
+{
+    replaceClipboard(text);
+}
+
+void Clipboard::clear()
+{
+    replaceClipboard(std::nullopt);
+    ++state<ClipboardState>().clears;
+}
+
+std::int64_t Clipboard::changeCount()
+{
+    return state<ClipboardState>().changeCount;
+}
+
+void ContinuousClock::after(milliseconds wait, std::function<void()> task)
+{
+    auto& clock = state<ClockState>();
+    clock.tasks.emplace(clock.now + wait, std::move(task));
+}
+
+void SystemAppearance::observe(QObject* observer,
+                               std::function<void(const SystemAppearance&)> changed)
+{
+    auto& [current, observers] = state<AppearanceState>();
+    if (current != SystemAppearance())
+        changed(current);
+    observers.push_back({.object = observer, .changed = std::move(changed)});
+}
+
+} // namespace Platform
