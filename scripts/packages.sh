@@ -40,10 +40,14 @@ packages[display]='
 packages[e2e]='
     at-spi2-core
     dbus
+    grim
     openbox
     python3-pyatspi
+    sway
+    wl-clipboard
     wmctrl
     x11-utils
+    xclip
 '
 
 packages[test]='

@@ -3,6 +3,9 @@
 
 #include "App/MorvaneApp.h"
 
+#include "Platform/WindowChrome.h"
+
+#include <QFont>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlExtensionPlugin>
@@ -29,6 +32,17 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
     }
 }
 
+/// The software renderer measures glyphs at the size that they have without the display's scale.
+/// Hinted for that, they would be drawn larger than measured, and cut off by a pixel.
+void leaveGlyphsUnhintedOnScaledDisplays(const QGuiApplication& application)
+{
+    if (application.devicePixelRatio() == 1)
+        return;
+    QFont font = QGuiApplication::font();
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QGuiApplication::setFont(font);
+}
+
 } // namespace
 
 int MorvaneApp::run(int argc, char** argv) const
@@ -44,11 +58,17 @@ int MorvaneApp::run(int argc, char** argv) const
     const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(handler);
+    leaveGlyphsUnhintedOnScaledDisplays(application);
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.setInitialProperties(
+        {{QStringLiteral("drawsFrame"), Platform::WindowChrome::isDrawnByProgram()}});
     engine.load(QStringLiteral("qrc:/qt/qml/Morvane/App/MainWindow.qml"));
-    if (engine.rootObjects().isEmpty())
+    auto* const window = qobject_cast<QWindow*>(engine.rootObjects().value(0));
+    if (!window)
         return EXIT_FAILURE;
+    Platform::WindowChrome::hideTitleBar(*window);
+    window->show();
     return QGuiApplication::exec();
 }

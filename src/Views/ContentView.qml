@@ -8,8 +8,14 @@ import Morvane.ViewModel
 FocusScope {
     id: root
 
+    // The smallest size at which all is readable.
+    readonly property real minimumHeight: Math.max(610, Math.ceil(settingsPanel.neededHeight), Math.ceil(resultPanel.neededHeight))
+    readonly property real minimumWidth: Math.max(760, Math.ceil(settingsPanel.width + divider.width + resultPanel.neededWidth))
     readonly property GeneratorViewModel model: GeneratorViewModel {
     }
+    // How much of the top edge the window's frame covers.
+    property real topInset: 0
+    readonly property alias value: resultPanel.value
 
     SettingsPanel {
         id: settingsPanel
@@ -19,7 +25,8 @@ FocusScope {
         anchors.top: parent.top
         model: root.model
         objectName: "settingsPanel"
-        width: 280
+        topInset: root.topInset
+        width: Math.max(280, Math.ceil(neededWidth))
     }
 
     Rectangle {
@@ -34,6 +41,8 @@ FocusScope {
     }
 
     ResultPanel {
+        id: resultPanel
+
         anchors.bottom: parent.bottom
         anchors.left: divider.right
         anchors.right: parent.right

@@ -26,6 +26,7 @@ Rectangle {
             color: Style.text
             font.pixelSize: Style.headlineSize
             font.weight: Font.DemiBold
+            objectName: "historyHeading"
             text: "Diese Sitzung"
             textFormat: Text.PlainText
 
@@ -34,17 +35,15 @@ Rectangle {
         }
 
         Repeater {
-            model: root.history.slice(0, 4)
+            model: Math.min(4, root.history.length)
 
             HistoryRow {
                 required property int index
-                required property string modelData
-
                 objectName: "historyRow" + index
-                text: modelData
+                text: root.history[index] ?? ""
                 width: rows.width
 
-                onClicked: root.chosen(modelData)
+                onClicked: root.chosen(text)
             }
         }
     }

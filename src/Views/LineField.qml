@@ -8,19 +8,22 @@ T.TextField {
     id: root
 
     color: Style.text
+    font.hintingPreference: Style.hintingPreference
     font.pixelSize: Style.bodySize
     implicitHeight: contentHeight + topPadding + bottomPadding
     implicitWidth: 160
+    opacity: enabled ? 1 : 0.4
     padding: 5
     leftPadding: 8
     rightPadding: 8
     selectByMouse: true
-    selectedTextColor: Style.accentText
-    selectionColor: Style.accentFill
+    persistentSelection: true
+    selectedTextColor: Style.text
+    selectionColor: Style.selection
     verticalAlignment: TextInput.AlignVCenter
 
     background: Rectangle {
-        border.color: root.activeFocus ? Style.focusRing : Style.controlBorder
+        border.color: root.activeFocus ? Style.focusRing : root.hovered ? Style.secondaryText : Style.controlBorder
         border.width: root.activeFocus ? 2 : 1
         color: Style.controlFill
         radius: 6

@@ -40,6 +40,7 @@ Column {
 
             color: Style.text
             font.pixelSize: Style.calloutSize
+            objectName: "separatorTitle"
             text: "Trennzeichen"
             textFormat: Text.PlainText
         }

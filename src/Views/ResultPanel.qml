@@ -2,11 +2,19 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import Morvane.ViewModel
+import Morvane.Views
 
 Rectangle {
     id: root
 
     required property GeneratorViewModel model
+    readonly property alias value: value
+
+    // What the panel needs when its secret is as high as it can become.
+    readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.largestHeight + 2 * (root.padding + column.spacing)
+    // The longest secrets fit into the smallest window, and shall do so in larger text as well.
+    readonly property real neededWidth: Math.max(buttons.implicitWidth, rating.implicitWidth, Style.scaled(355) + 64) + 2 * root.padding
+    readonly property real padding: 30
 
     color: Style.surface
 
@@ -14,58 +22,47 @@ Rectangle {
         id: column
 
         anchors.centerIn: parent
+        objectName: "resultColumn"
         spacing: 22
-        width: parent.width - 60
+        width: parent.width - 2 * root.padding
 
-        Text {
-            readonly property int size: PerceivedText.count(text) <= 38 ? Style.valueSize : Style.longValueSize
+        SymbolImage {
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: Style.accent
+            height: width
+            name: "sparkles"
+            objectName: "icon"
+            width: Style.scaled(34)
+        }
+
+        ValueText {
+            id: value
 
             anchors.horizontalCenter: parent.horizontalCenter
-            color: Style.text
-            elide: Text.ElideRight
-            font.family: "monospace"
-            font.pixelSize: size
-            font.weight: Font.DemiBold
-            fontSizeMode: Text.Fit
-            height: Math.min(implicitHeight, 3 * metrics.height)
-            horizontalAlignment: Text.AlignHCenter
-            maximumLineCount: 3
-            minimumPixelSize: Math.ceil(0.65 * size)
-            objectName: "value"
             text: root.model.generated
-            textFormat: Text.PlainText
             width: parent.width - 64
-            wrapMode: Text.Wrap
-
-            Accessible.name: text
-            Accessible.role: Accessible.StaticText
-
-            FontMetrics {
-                id: metrics
-
-                font.family: "monospace"
-                font.pixelSize: Style.valueSize
-                font.weight: Font.DemiBold
-            }
         }
 
         Row {
+            id: rating
+
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 8
 
-            Text {
+            SymbolLabel {
                 color: Style.strengthColor(root.model.strengthLevel)
                 font.pixelSize: Style.calloutSize
                 font.weight: Font.Medium
                 objectName: "strength"
+                symbol: root.model.strengthSymbol
                 text: root.model.strengthTitle
-                textFormat: Text.PlainText
 
                 Accessible.name: text
                 Accessible.role: Accessible.StaticText
             }
 
             Text {
+                anchors.verticalCenter: parent.verticalCenter
                 color: Style.secondaryText
                 font.pixelSize: Style.calloutSize
                 font.weight: Font.Medium
@@ -78,12 +75,42 @@ Rectangle {
             }
         }
 
-        PushButton {
-            anchors.horizontalCenter: parent.horizontalCenter
-            objectName: "generate"
-            text: "Neu erzeugen"
+        Row {
+            id: buttons
 
-            onClicked: root.model.generate()
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 12
+
+            PushButton {
+                objectName: "generate"
+                symbol: "arrow.clockwise"
+                text: "Neu erzeugen"
+
+                onClicked: root.model.generate()
+            }
+
+            ProminentButton {
+                objectName: "copy"
+                reservedText: "Kopieren"
+                symbol: root.model.copied ? "checkmark" : "doc.on.doc"
+                text: root.model.copied ? "Kopiert" : "Kopieren"
+
+                onClicked: root.model.copyToClipboard()
+            }
+        }
+
+        Text {
+            color: Style.tertiaryText
+            font.pixelSize: Style.captionSize
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "clipboardNote"
+            text: "Die Zwischenablage wird nach 30 Sekunden geleert, sofern du nichts anderes kopierst."
+            textFormat: Text.PlainText
+            width: parent.width
+            wrapMode: Text.Wrap
+
+            Accessible.name: text
+            Accessible.role: Accessible.StaticText
         }
 
         HistoryBox {
@@ -101,5 +128,11 @@ Rectangle {
         sequence: "Ctrl+R"
 
         onActivated: root.model.generate()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Shift+C"
+
+        onActivated: root.model.copyToClipboard()
     }
 }

@@ -12,19 +12,53 @@ FocusScope {
     required property list<string> choices
     required property int currentIndex
     required property string name
+    // Of the widest choice, in the weight in which it is selected.
+    readonly property real segmentWidth: {
+        // What the metrics' function returns follows their font, but no binding sees that.
+        const font = metrics.font;
+        return font ? Math.max(...root.choices.map(choice => Math.ceil(metrics.advanceWidth(choice)))) : 0;
+    }
 
     signal chosen(int index)
 
-    implicitHeight: 26
-    implicitWidth: row.implicitWidth
+    implicitHeight: Math.ceil(metrics.height) + 10
+    implicitWidth: root.choices.length * (root.segmentWidth + 12) + 4
+    opacity: enabled ? 1 : 0.4
 
     Accessible.name: root.name
     Accessible.role: Accessible.Grouping
+
+    FontMetrics {
+        id: metrics
+
+        font.pixelSize: Style.bodySize
+        font.weight: Font.DemiBold
+    }
 
     Rectangle {
         anchors.fill: parent
         color: Style.segmentTrack
         radius: 7
+    }
+
+    Rectangle {
+        border.color: Style.controlBorder
+        color: Style.segment
+        height: row.height
+        radius: 5
+        width: row.width / root.choices.length
+        x: row.x + root.currentIndex * width
+        y: row.y
+
+        Behavior on x  {
+            // Only when the user chooses, not while the window is laid out.
+            enabled: root.activeFocus
+
+            NumberAnimation {
+                duration: Style.transition
+                easing.type: Easing.OutCubic
+            }
+        }
     }
 
     Row {
@@ -49,6 +83,7 @@ FocusScope {
                 checked: root.currentIndex === index
                 focus: checked
                 focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
+                font.hintingPreference: Style.hintingPreference
                 font.pixelSize: Style.bodySize
                 font.weight: checked ? Font.DemiBold : Font.Normal
                 height: row.height
@@ -56,11 +91,14 @@ FocusScope {
                 width: row.width / root.choices.length
 
                 background: Rectangle {
-                    border.color: segment.visualFocus ? Style.focusRing : Style.controlBorder
-                    border.width: segment.visualFocus ? 2 : 1
-                    color: segment.checked ? Style.segment : "transparent"
+                    color: segment.hovered && !segment.checked ? Style.segmentHovered : "transparent"
                     radius: 5
-                    visible: segment.checked || segment.visualFocus
+
+                    FocusRing {
+                        anchors.margins: 0
+                        radius: 5
+                        shown: segment.visualFocus
+                    }
                 }
                 contentItem: Text {
                     color: Style.text

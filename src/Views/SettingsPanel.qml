@@ -3,11 +3,17 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Morvane.ViewModel
+import Morvane.Views
 
 Rectangle {
     id: root
 
     required property GeneratorViewModel model
+    readonly property real neededHeight: topInset + controls.implicitHeight + controls.spacing + note.implicitHeight + 2 * padding
+    readonly property real neededWidth: pickerTitle.implicitWidth + 10 + picker.implicitWidth + 2 * padding
+    readonly property real padding: 24
+    // What covers the panel at the top.
+    required property real topInset
 
     color: Style.window
 
@@ -21,17 +27,19 @@ Rectangle {
         id: controls
 
         anchors.left: parent.left
-        anchors.margins: 24
+        anchors.margins: root.padding
         anchors.right: parent.right
         anchors.top: parent.top
+        anchors.topMargin: root.padding + root.topInset
+        objectName: "settingsColumn"
         spacing: 18
 
-        Text {
-            color: Style.text
+        SymbolLabel {
             font.bold: true
             font.pixelSize: Style.title2Size
+            objectName: "title"
+            symbol: "key.horizontal.fill"
             text: "Morvane"
-            textFormat: Text.PlainText
 
             Accessible.name: text
             Accessible.role: Accessible.StaticText
@@ -88,18 +96,42 @@ Rectangle {
         }
     }
 
-    Text {
+    Item {
+        id: note
+
         anchors.bottom: parent.bottom
         anchors.left: parent.left
-        anchors.margins: 24
+        anchors.margins: root.padding
         anchors.right: parent.right
-        color: Style.secondaryText
-        font.pixelSize: Style.captionSize
-        text: "Alles bleibt auf diesem Mac. Es wird nichts gespeichert oder übertragen."
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
+        implicitHeight: noteText.implicitHeight
+        objectName: "privacyNote"
 
-        Accessible.name: text
-        Accessible.role: Accessible.StaticText
+        SymbolImage {
+            id: noteSymbol
+
+            anchors.verticalCenter: parent.verticalCenter
+            color: Style.secondaryText
+            height: width
+            name: "lock.shield"
+            objectName: "privacySymbol"
+            width: Style.scaled(18)
+        }
+
+        Text {
+            id: noteText
+
+            anchors.left: noteSymbol.right
+            anchors.leftMargin: 8
+            anchors.right: parent.right
+            color: Style.secondaryText
+            font.pixelSize: Style.captionSize
+            objectName: "privacyText"
+            text: "Alles bleibt auf diesem Mac. Es wird nichts gespeichert oder übertragen."
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+
+            Accessible.name: text
+            Accessible.role: Accessible.StaticText
+        }
     }
 }

@@ -16,11 +16,12 @@ T.Slider {
 
     implicitHeight: 20
     implicitWidth: 160
+    opacity: enabled ? 1 : 0.4
     snapMode: T.Slider.SnapAlways
     stepSize: 1
 
     background: Rectangle {
-        color: Style.controlTrack
+        color: root.hovered ? Style.controlTrackHovered : Style.controlTrack
         height: 4
         radius: 2
         width: root.availableWidth
@@ -42,14 +43,10 @@ T.Slider {
         x: root.visualPosition * (root.availableWidth - width)
         y: (root.height - height) / 2
 
-        Rectangle {
-            anchors.fill: parent
+        FocusRing {
             anchors.margins: -3
-            border.color: Style.focusRing
-            border.width: 2
-            color: "transparent"
             radius: height / 2
-            visible: root.visualFocus
+            shown: root.visualFocus
         }
     }
 

@@ -2,46 +2,66 @@
 // SPDX-License-Identifier: MIT
 pragma Singleton
 import QtQuick
+import Morvane.Views
 
-// The look in one place: text sizes in pixels at the default font size, and colours of both schemes.
+// The look in one place: text sizes in pixels, lengths that several controls share, and the colours
+// of both schemes.
 QtObject {
     id: style
 
-    readonly property SystemPalette palette: SystemPalette {
+    readonly property Appearance appearance: Appearance {
     }
-    readonly property bool dark: palette.window.hslLightness < 0.5
+    readonly property bool dark: appearance.dark
+    readonly property real textScale: appearance.textScale
 
-    readonly property int title2Size: 17
-    readonly property int headlineSize: 13
-    readonly property int bodySize: 13
-    readonly property int calloutSize: 12
-    readonly property int captionSize: 11
+    readonly property int title2Size: scaled(17)
+    readonly property int headlineSize: scaled(13)
+    readonly property int bodySize: scaled(13)
+    readonly property int calloutSize: scaled(12)
+    readonly property int captionSize: scaled(11)
 
-    readonly property int longValueSize: 22
-    readonly property int valueSize: 28
+    readonly property int longValueSize: scaled(22)
+    readonly property int valueSize: scaled(28)
+
+    // For controls: left to themselves, they ask the desktop and not the application.
+    readonly property int hintingPreference: appearance.hintingPreference
+
+    // In milliseconds.
+    readonly property int transition: appearance.reducedMotion ? 0 : 120
 
     readonly property color window: dark ? "#323232" : "#ececec"
     readonly property color surface: dark ? "#262626" : "#fafafa"
     readonly property color divider: dark ? "#4a4a4a" : "#d2d2d2"
     readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
-    readonly property color secondaryText: dark ? "#b4b4b8" : "#5a5a5f"
+    readonly property color secondaryText: dark ? "#b4b4b8" : "#56565b"
+    readonly property color tertiaryText: dark ? "#98989d" : "#6a6a6f"
 
     readonly property color controlTrack: dark ? "#5a5a5d" : "#c8c8cc"
+    readonly property color controlTrackHovered: dark ? "#666669" : "#bcbcc1"
     readonly property color controlBorder: dark ? "#1f1f1f" : "#b4b4b8"
     readonly property color controlFill: dark ? "#454547" : "#ffffff"
-    readonly property color controlPressed: dark ? "#39393b" : "#ececec"
+    readonly property color controlHovered: dark ? "#4e4e51" : "#f5f5f7"
+    readonly property color controlPressed: dark ? "#39393b" : "#e6e6e9"
     readonly property color box: dark ? "#303030" : "#f0f0f2"
-    readonly property color rowHighlight: dark ? "#3d3d40" : "#e2e2e6"
+    readonly property color rowHovered: dark ? "#3a3a3c" : "#e6e6ea"
+    readonly property color rowPressed: dark ? "#454548" : "#d9d9de"
     readonly property color segment: dark ? "#636366" : "#ffffff"
     readonly property color segmentTrack: dark ? "#29292b" : "#dadade"
+    readonly property color segmentHovered: dark ? "#3a3a3c" : "#d0d0d5"
     readonly property color knob: dark ? "#e6e6e8" : "#ffffff"
     readonly property color knobPressed: dark ? "#cfcfd2" : "#f0f0f0"
+    readonly property color menu: dark ? "#2e2e30" : "#ffffff"
 
     readonly property color accent: dark ? "#0a84ff" : "#007aff"
     // The accent with white text on it: darker than the accent itself, for the text's contrast.
     readonly property color accentFill: dark ? "#0a6fe0" : "#0068e0"
+    readonly property color accentFillHovered: dark ? "#0a66cf" : "#0061d1"
     readonly property color accentFillPressed: dark ? "#0a5cbb" : "#0057bd"
     readonly property color accentText: "#ffffff"
+    // Behind selected text, which keeps its colour.
+    readonly property color selection: dark ? "#2f5685" : "#b3d4ff"
+    readonly property color closeHovered: "#d70015"
+    readonly property color closePressed: "#b30012"
     readonly property color scrim: dark ? "#80000000" : "#40000000"
     readonly property color focusRing: accent
 
@@ -50,5 +70,10 @@ QtObject {
 
     function strengthColor(level: int): color {
         return strengthColors[level];
+    }
+
+    // What measures `pixels` at the default font size, at the user's.
+    function scaled(pixels: real): int {
+        return Math.round(pixels * textScale);
     }
 }

@@ -7,9 +7,11 @@ import QtQuick.Templates as T
 T.Switch {
     id: root
 
+    font.hintingPreference: Style.hintingPreference
     font.pixelSize: Style.bodySize
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth
+    opacity: enabled ? 1 : 0.4
     spacing: 8
 
     contentItem: Text {
@@ -25,19 +27,21 @@ T.Switch {
         anchors.right: root.right
         anchors.verticalCenter: root.verticalCenter
         border.color: root.checked ? color : Style.controlBorder
-        color: root.checked ? Style.accent : Style.controlTrack
+        color: root.checked ? Style.accent : root.hovered ? Style.controlTrackHovered : Style.controlTrack
         implicitHeight: 20
         implicitWidth: 36
         radius: height / 2
 
-        Rectangle {
-            anchors.fill: parent
+        Behavior on color  {
+            ColorAnimation {
+                duration: Style.transition
+            }
+        }
+
+        FocusRing {
             anchors.margins: -3
-            border.color: Style.focusRing
-            border.width: 2
-            color: "transparent"
             radius: height / 2
-            visible: root.visualFocus
+            shown: root.visualFocus
         }
 
         Rectangle {
@@ -45,9 +49,19 @@ T.Switch {
             border.color: Style.controlBorder
             color: root.down ? Style.knobPressed : Style.knob
             height: 16
+            objectName: "knob"
             radius: 8
             width: 16
             x: 2 + root.visualPosition * (parent.width - width - 4)
+
+            Behavior on x  {
+                enabled: !root.down
+
+                NumberAnimation {
+                    duration: Style.transition
+                    easing.type: Easing.OutCubic
+                }
+            }
         }
     }
 

@@ -13,6 +13,8 @@ import time
 DEADLINE = 20.0
 """Seconds after which an awaited event counts as missing. Passing tests never wait this long."""
 
+RATINGS = ("Schwach", "Mittel", "Gut", "Stark")
+
 PROGRAM = os.environ["MORVANE_PROGRAM"]
 ARTIFACTS = pathlib.Path(os.environ["MORVANE_ARTIFACTS"])
 
@@ -49,14 +51,25 @@ class Desktop:
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             LC_ALL="C.UTF-8",
         )
-        os.environ["DISPLAY"] = ":" + self._announced(
-            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "1600x1200x24", "-nolisten", "tcp"]
-        )
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
-            ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"]
-        )
-        self._start(["openbox"])
-        until(self._window_manager_runs, "a window manager")
+        try:
+            self._start_display()
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
+                ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"]
+            )
+        except BaseException:
+            self.close()
+            raise
+
+    def _start_display(self):
+        # Another server that ends at this moment can take a display's name along with it.
+        for _ in range(5):
+            os.environ["DISPLAY"] = ":" + self._announced(
+                ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "2600x1800x24", "-nolisten", "tcp"]
+            )
+            manager = self._start(["openbox"])
+            if until(lambda: self._window_manager_runs() or manager.poll(), "a window manager") is True:
+                return
+        raise AssertionError("no display stays")
 
     def _start(self, command, **options):
         process = subprocess.Popen(
@@ -97,9 +110,9 @@ class Desktop:
 class Program:
     """The program under test. Use it in a `with` block, which ends it."""
 
-    def __init__(self, desktop, preload=None, with_display=True):
+    def __init__(self, desktop, preload=None, with_display=True, variables=None):
         self.desktop = desktop
-        environment = dict(os.environ)
+        environment = {**os.environ, **(variables or {})}
         environment.pop("XDG_CACHE_HOME")
         if preload:
             environment["LD_PRELOAD"] = preload
@@ -144,15 +157,83 @@ class Program:
     def accessible(self):
         """The root of the program's accessible objects."""
         import pyatspi
+        from gi.repository import Atspi
 
         def application():
             desktop = pyatspi.Registry.getDesktop(0)
             for child in desktop:
                 if child is not None and child.get_process_id() == self.process.pid:
+                    # Not everything that changes is told, so nothing may be remembered.
+                    child.set_cache_mask(Atspi.Cache.NONE)
                     return child
             return None
 
         return until(application, "the program on the accessibility bus")
+
+    def value(self):
+        """The secret on show: the label in front of its rating."""
+        labels = [a.name for a in everything(self.accessible()) if a.getRoleName() == "label"]
+        ratings = [i for i, name in enumerate(labels) if name in RATINGS]
+        return labels[ratings[-1] - 1] if ratings else None
+
+    def history(self):
+        """The secrets in the history box, newest first."""
+        names = [a.name for a in everything(self.accessible())]
+        return names[names.index("Diese Sitzung") + 1 : names.index("Menü")]
+
+    def middle(self, name, role=None):
+        """The middle of the control of this name, as a point of the screen."""
+        import pyatspi
+
+        control = self.find(
+            lambda a: a.name == name
+            and (a.getRoleName() == role if role else a.getRoleName() != "label"),
+            f"the control {name}",
+        )
+        boxes = []
+
+        def at_rest():
+            box = control.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+            boxes.append((box.x, box.y, box.width, box.height))
+            return len(boxes) > 2 and boxes[-1] == boxes[-2] == boxes[-3]
+
+        until(at_rest, f"the control {name} at rest")
+        x, y, width, height = boxes[-1]
+        return x + width // 2, y + height // 2
+
+    def click(self, name, role=None):
+        """Clicks the control of this name with the real pointer."""
+        point(*self.middle(name, role))
+        subprocess.run(["xdotool", "click", "1"], check=True)
+
+    def press(self, name):
+        """Presses the button, or throws the switch, of this name through its accessible action."""
+        control = self.find(
+            lambda a: a.name == name and "Action" in a.get_interfaces(), f"the control {name}"
+        )
+        actions = control.queryAction()
+        names = [actions.getName(i) for i in range(actions.nActions)]
+        actions.doAction(names.index("Toggle" if "Toggle" in names else "Press"))
+
+    def slide(self, name, value):
+        """Sets the slider of this name."""
+        slider = self.find(
+            lambda a: a.name == name and "Value" in a.get_interfaces(), f"the slider {name}"
+        )
+        slider.queryValue().currentValue = value
+
+    def picture(self, file):
+        """Writes a picture of the window once it has come to rest."""
+        window = self.window()
+        file.parent.mkdir(parents=True, exist_ok=True)
+        seen = []
+
+        def at_rest():
+            subprocess.run(["import", "-silent", "-window", window, "-strip", str(file)], check=True)
+            seen.append(output("identify", "-format", "%#", str(file)))
+            return len(seen) > 2 and seen[-1] == seen[-2] == seen[-3]
+
+        until(at_rest, "a window that has come to rest")
 
     def find(self, predicate, what):
         """The first showing accessible object for which `predicate` holds."""
@@ -167,6 +248,23 @@ def output(*command):
     ).stdout
 
 
+def key(*keys):
+    """Presses keys on the real keyboard, one after the other."""
+    subprocess.run(["xdotool", "key", *keys], check=True)
+
+
+def point(x, y):
+    """Moves the real pointer there."""
+    subprocess.run(["xdotool", "mousemove", "--sync", str(x), str(y)], check=True)
+
+
+def everything(accessible):
+    """All showing accessible objects below `accessible`, in reading order."""
+    found = []
+    first(accessible, found.append)  # which never yields true
+    return found
+
+
 def first(accessible, predicate):
     """Depth-first search below `accessible` for a showing object."""
     import pyatspi
@@ -176,7 +274,7 @@ def first(accessible, predicate):
         if accessible.getState().contains(pyatspi.STATE_SHOWING) and predicate(accessible):
             return accessible
         children = list(accessible)
-    except GLib.Error:  # gone while it was looked at
+    except (GLib.Error, ValueError):  # gone while it was looked at
         return None
     for child in children:
         if child is not None:

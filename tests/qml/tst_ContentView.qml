@@ -43,10 +43,10 @@ TestCase {
     }
 
     function test_firstFrameShowsATenCharacterPassword() {
-        const value = findChild(content, "value") as Text;
+        const value = findChild(content, "value") as TextEdit;
         compare(value.text.length, 10);
         compare(value.text, content.model.generated);
-        compare(value.textFormat, Text.PlainText);
+        compare(value.textFormat, TextEdit.PlainText);
         verify(!alertIsShown());
     }
 
@@ -84,8 +84,9 @@ TestCase {
     function test_aNewValueIsShownVerbatim(data) {
         content.model.settings.separator = data.separator;
         content.model.settings.mode = 1;
-        const value = findChild(content, "value") as Text;
+        const value = findChild(content, "value") as TextEdit;
         compare(value.text, content.model.generated);
+        compare(value.getText(0, value.length), content.model.generated);
         compare(value.text.split(data.separator).length, 6);
     }
 
@@ -197,6 +198,22 @@ TestCase {
         content.model.settings.numbers = true;
         compare(generations.count, generated + 1);
         verify(!alertIsShown());
+    }
+
+    function test_theAlertBlocksTheWindowsShortcuts() {
+        switchEveryGroupOff();
+        content.model.settings.numbers = true;
+        const generated = generations.count;
+        randomSource.failing = true;
+        content.model.generate();
+        tryVerify(alertIsShown);
+        randomSource.failing = false;
+        keySequence("Ctrl+R");
+        compare(generations.count, generated);
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !alertIsShown());
+        keySequence("Ctrl+R");
+        compare(generations.count, generated + 1);
     }
 
     function test_aSuccessWithdrawsTheAlert() {

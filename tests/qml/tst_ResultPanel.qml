@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtTest
+import Morvane.Testing
 import Morvane.Views
 
 TestCase {
@@ -32,6 +33,7 @@ TestCase {
 
     function cleanup() {
         generations.target = null;
+        system.advanceClock(30000);
         content.destroy();
         content = null;
     }
@@ -41,28 +43,39 @@ TestCase {
                 "tag": "weak",
                 "length": 6,
                 "title": "Schwach",
+                "symbol": "shield.slash",
+                "hue": 0,
                 "bits": "· ca. 37 Bit"
             }, {
                 "tag": "fair",
                 "length": 10,
                 "title": "Mittel",
+                "symbol": "shield.lefthalf.filled",
+                "hue": 30,
                 "bits": "· ca. 62 Bit"
             }, {
                 "tag": "good",
                 "length": 12,
                 "title": "Gut",
+                "symbol": "shield",
+                "hue": 211,
                 "bits": "· ca. 74 Bit"
             }, {
                 "tag": "strong",
                 "length": 15,
                 "title": "Stark",
+                "symbol": "checkmark.shield.fill",
+                "hue": 132,
                 "bits": "· ca. 93 Bit"
             }];
     }
 
     function test_ratingFollowsTheEntropy(data) {
         content.model.settings.length = data.length;
-        compare(shown("strength"), data.title);
+        const strength = findChild(content, "strength") as SymbolLabel;
+        compare([strength.text, strength.symbol], [data.title, data.symbol]);
+        // Red, orange, blue, green.
+        fuzzyCompare(strength.color.hsvHue * 360, data.hue, 5);
         compare(shown("entropy"), data.bits);
     }
 
@@ -89,17 +102,207 @@ TestCase {
     function test_valueSizeDependsOnItsLength(data) {
         content.width = 1200;
         content.model.settings.length = data.length;
-        const value = findChild(content, "value") as Text;
-        compare(value.font.pixelSize, data.size);
-        compare(value.fontInfo.pixelSize, data.size);
+        compare(content.value.size, data.size);
+        verify(!content.value.truncated);
+    }
+
+    function test_valueSizeCountsPerceivedCharacters() {
+        content.width = 1200;
+        content.model.useFromHistory("🇩🇪".repeat(38));
+        compare(content.value.size, 28);
+        content.model.useFromHistory("🇩🇪".repeat(39));
+        compare(content.value.size, 22);
+    }
+
+    // On at most three lines, none of which is wider than the text's place.
+    function verifyIsFullyReadable() {
+        const value = content.value.editor;
+        verify(!content.value.truncated, value.text);
+        verify(value.lineCount <= 3, value.text + " has lines: " + value.lineCount);
+        verify(value.contentWidth <= value.width, value.text);
+        verify(content.value.size >= 0.65 * 22);
     }
 
     function test_theLongestPasswordIsFullyShownInTheSmallestWindow() {
         content.model.settings.length = 64;
+        for (let i = 0; i < 20; ++i) {
+            content.model.generate();
+            verifyIsFullyReadable();
+        }
+        content.model.useFromHistory("W".repeat(64));
+        verifyIsFullyReadable();
+    }
+
+    function test_eightLongWordsAreFullyShownInTheSmallestWindow_data() {
+        return [{
+                "tag": "wide letters",
+                "separator": "WWW"
+            }, {
+                "tag": "blanks around a dot",
+                "separator": " · "
+            }, {
+                "tag": "em dashes",
+                "separator": "———"
+            }, {
+                "tag": "ideographs",
+                "separator": "鍵鍵鍵"
+            }, {
+                "tag": "flags",
+                "separator": "🇩🇪🇩🇪🇩🇪"
+            }];
+    }
+
+    function test_eightLongWordsAreFullyShownInTheSmallestWindow(data) {
+        content.model.useFromHistory((data.separator + "Spiegel").repeat(8).slice(data.separator.length) + data.separator + "99");
+        verifyIsFullyReadable();
+    }
+
+    function test_aValueThatDoesNotFitShrinksTo65PercentAndIsOnlyThenCutShort() {
+        let length = 64;
+        const sizes = [];
+        do {
+            content.model.useFromHistory("W".repeat(length));
+            sizes[sizes.length] = content.value.size;
+            ++length;
+        } while (!content.value.truncated)
+        compare(sizes[0] <= 22, true);
+        for (let i = 1; i < sizes.length; ++i)
+            verify(sizes[i] <= sizes[i - 1], sizes);
+        // The next whole pixel above 0.65 of 22.
+        compare(sizes.pop(), 15);
+        compare(sizes.pop(), 15);
         verify(waitForRendering(content));
-        const value = findChild(content, "value") as Text;
-        verify(!value.truncated);
-        verify(value.lineCount <= 3);
+        verify(content.value.height <= content.value.largestHeight);
+        const cut = findChild(content, "cutValue") as Text;
+        verify(cut.visible && cut.truncated);
+        compare(cut.lineCount, 3);
+        compare(cut.text, content.model.generated);
+        content.model.generate();
+        verify(!cut.visible);
+    }
+
+    function test_theValueIsCentredWith32OnEitherSide() {
+        const value = content.value;
+        const panel = findChild(content, "resultPanel") as Item;
+        compare(value.width, panel.width - 60 - 64);
+        compare(value.mapToItem(panel, 0, 0).x, 30 + 32);
+        compare(value.editor.horizontalAlignment, TextEdit.AlignHCenter);
+    }
+
+    function test_theValueIsSelectedAndCopiedByKeyboard() {
+        const value = content.value.editor;
+        value.forceActiveFocus();
+        keySequence("Ctrl+A");
+        compare(value.selectedText, content.model.generated);
+        keySequence("Ctrl+C");
+        paste.forceActiveFocus();
+        paste.clear();
+        keySequence("Ctrl+V");
+        compare(paste.text, content.model.generated);
+    }
+
+    function test_theValueIsSelectedByPointer() {
+        const value = content.value.editor;
+        const left = (value.width - value.contentWidth) / 2;
+        mousePress(value, left, value.height / 2);
+        mouseMove(value, left + value.contentWidth / 4, value.height / 2);
+        mouseMove(value, left + value.contentWidth / 2, value.height / 2);
+        mouseRelease(value, left + value.contentWidth / 2, value.height / 2);
+        compare(value.selectedText, content.model.generated.slice(0, 5));
+    }
+
+    function test_theValueCannotBeEdited() {
+        const value = content.value.editor;
+        value.forceActiveFocus();
+        value.selectAll();
+        keyClick(Qt.Key_X);
+        keyClick(Qt.Key_Delete);
+        keySequence("Ctrl+X");
+        compare(value.text, content.model.generated);
+    }
+
+    function test_theCopyButtonCopiesAndConfirms() {
+        const button = findChild(content, "copy") as LabelButton;
+        compare([button.text, button.symbol], ["Kopieren", "doc.on.doc"]);
+        const width = button.width;
+        mouseClick(button);
+        compare(system.clipboardText(), content.model.generated);
+        compare([button.text, button.symbol], ["Kopiert", "checkmark"]);
+        compare(button.width, width);
+        system.advanceClock(1400);
+        compare([button.text, button.symbol], ["Kopieren", "doc.on.doc"]);
+        system.advanceClock(28600);
+        compare(system.clipboardText(), "(leer)");
+    }
+
+    function test_theCopyShortcutWorksFromEverywhere_data() {
+        return [{
+                "tag": "nothing",
+                "name": ""
+            }, {
+                "tag": "value",
+                "name": "value"
+            }, {
+                "tag": "slider",
+                "name": "slider"
+            }, {
+                "tag": "separator",
+                "name": "separator"
+            }, {
+                "tag": "button",
+                "name": "generate"
+            }];
+    }
+
+    function test_theCopyShortcutWorksFromEverywhere(data) {
+        content.model.settings.mode = 1;
+        if (data.name !== "")
+            findChild(content, data.name).forceActiveFocus();
+        generations.clear();
+        keySequence("Ctrl+Shift+C");
+        compare(system.clipboardText(), content.model.generated);
+        compare(shown("copy"), "Kopiert");
+        keySequence("Ctrl+R");
+        compare(generations.count, 1);
+        system.advanceClock(30000);
+    }
+
+    function test_anEmptyValueIsNotCopiedButTheButtonStaysEnabled() {
+        content.model.useFromHistory("");
+        const button = findChild(content, "copy") as LabelButton;
+        verify(button.enabled);
+        mouseClick(button);
+        compare(button.text, "Kopieren");
+        compare(system.clipboardText(), "(leer)");
+    }
+
+    function test_childrenStandInTheirOrderAt22() {
+        const column = findChild(content, "resultColumn") as Item;
+        const panel = findChild(content, "resultPanel") as Item;
+        const children = Array.from(column.children);
+        compare(children.length, 6);
+        compare(children[0].objectName, "icon");
+        compare(children[1], content.value);
+        compare(children[4].objectName, "clipboardNote");
+        compare(children[5].objectName, "history");
+        for (let i = 1; i < children.length; ++i)
+            compare(children[i].y, children[i - 1].y + children[i - 1].height + 22);
+        for (const child of children)
+            fuzzyCompare(child.x + child.width / 2, column.width / 2, 0.51);
+        compare(column.width, panel.width - 60);
+        fuzzyCompare(column.y + column.height / 2, panel.height / 2, 0.51);
+    }
+
+    function test_theNoteNamesTheWait() {
+        compare(shown("clipboardNote"), "Die Zwischenablage wird nach 30 Sekunden geleert, sofern du nichts anderes kopierst.");
+    }
+
+    function test_buttonsStand12Apart() {
+        const generate = findChild(content, "generate") as LabelButton;
+        const copy = findChild(content, "copy") as LabelButton;
+        compare([generate.text, generate.symbol], ["Neu erzeugen", "arrow.clockwise"]);
+        compare(copy.x, generate.x + generate.width + 12);
+        compare(copy.height, generate.height);
     }
 
     function test_theButtonAndItsShortcutRegenerate() {
@@ -126,7 +329,9 @@ TestCase {
         const before = rows();
         verify(waitForRendering(content));
         generations.clear();
-        mouseClick(findChild(content, "historyRow2"));
+        const row = findChild(content, "historyRow2") as HistoryRow;
+        // Anywhere, also between the text and the arrow.
+        mouseClick(row, row.width / 2, 1);
         compare(shown("value"), before[2]);
         compare(rows(), before);
         compare(generations.count, 1);
@@ -138,6 +343,35 @@ TestCase {
         content.width = 1200;
         compare(box.width, 430);
         compare(box.radius, 12);
+    }
+
+    function test_aLongHistoryEntryIsCutShortBeforeItsArrow() {
+        content.model.settings.length = 64;
+        verify(waitForRendering(content));
+        const row = findChild(content, "historyRow0") as HistoryRow;
+        const text = findChild(row, "secret") as Text;
+        const arrow = findChild(row, "arrow") as SymbolImage;
+        verify(text.truncated);
+        compare(text.lineCount, 1);
+        compare(text.rightPadding, arrow.width + 8);
+        compare(text.mapToItem(row, text.width, 0).x, row.width);
+        compare(arrow.name, "arrow.up.left");
+        compare(arrow.x + arrow.width, row.width);
+    }
+
+    function test_historyBoxHas16AroundAnd8Between() {
+        content.model.generate();
+        content.model.generate();
+        verify(waitForRendering(content));
+        const box = findChild(content, "history") as Item;
+        const heading = findChild(box, "historyHeading") as Text;
+        const rows = [0, 1, 2].map(i => findChild(box, "historyRow" + i) as Item);
+        compare(heading.text, "Diese Sitzung");
+        compare(heading.mapToItem(box, 0, 0), Qt.point(16, 16));
+        compare(rows[0].y, heading.y + heading.height + 8);
+        compare(rows[1].y, rows[0].y + rows[0].height + 8);
+        compare(rows[2].y, rows[1].y + rows[1].height + 8);
+        compare(rows[2].mapToItem(box, rows[2].width, rows[2].height), Qt.point(box.width - 16, box.height - 16));
     }
 
     height: 800
@@ -152,6 +386,14 @@ TestCase {
         ContentView {
             focus: true
         }
+    }
+
+    TextEdit {
+        id: paste
+    }
+
+    FakeSystem {
+        id: system
     }
 
     SignalSpy {

@@ -48,6 +48,88 @@ TestCase {
         content = null;
     }
 
+    // The panel's children from top to bottom, those of the mode's settings among them.
+    function stackedChildren(): list<Item> {
+        const column = control("settingsColumn");
+        let found = [];
+        for (const child of Array.from(column.children)) {
+            if (child instanceof PasswordSettings || child instanceof PhraseSettings)
+                found = found.concat(Array.from(child.children).filter(item => item.height > 0));
+            else if (child.height > 0)
+                found.push(child);
+        }
+        return found;
+    }
+
+    function test_childrenStandInTheirOrderAt18_data() {
+        return [{
+                "tag": "password",
+                "mode": 0,
+                "named": ["title", "", "length", "", "", "avoidAmbiguous", "requireEveryGroup"]
+            }, {
+                "tag": "passphrase",
+                "mode": 1,
+                "named": ["title", "", "wordCount", "", "capitalizeWords", "appendNumber"]
+            }];
+    }
+
+    function test_childrenStandInTheirOrderAt18(data) {
+        content.model.settings.mode = data.mode;
+        verify(waitForItemPolished(control("settingsColumn")));
+        const children = stackedChildren();
+        const panel = control("settingsPanel");
+        compare(children.map(child => child.objectName), data.named);
+        compare(children[0].mapToItem(panel, 0, 0), Qt.point(24, 24));
+        for (let i = 1; i < children.length; ++i) {
+            const above = children[i - 1].mapToItem(panel, 0, children[i - 1].height).y;
+            const place = children[i].mapToItem(panel, 0, 0);
+            compare(place.y, above + 18, children[i].objectName);
+            compare(place.x, 24);
+        }
+    }
+
+    function test_blocksKeepTheirInnerSpacing() {
+        const length = control("length");
+        compare(slider("length").y, findChild(length, "number").height + 8);
+        const groups = Array.from(["lowercase", "uppercase", "numbers", "symbols"], name => control(name));
+        for (let i = 1; i < groups.length; ++i)
+            compare(groups[i].y, groups[i - 1].y + groups[i - 1].height + 10);
+        showPhraseSettings();
+        const field = control("separator");
+        compare(field.y, findChild(field.parent, "separatorTitle").height + 6);
+    }
+
+    function test_theTitleAndTheNoteHaveTheirSymbols() {
+        const title = control("title") as SymbolLabel;
+        compare([title.symbol, title.text, title.font.bold, title.font.pixelSize], ["key.horizontal.fill", "Morvane", true, 17]);
+        const note = control("privacyNote");
+        const text = findChild(note, "privacyText") as Text;
+        compare(text.text, "Alles bleibt auf diesem Mac. Es wird nichts gespeichert oder übertragen.");
+        compare(findChild(note, "privacySymbol").name, "lock.shield");
+        verify(!text.truncated);
+        verify(text.lineCount > 1);
+        const panel = control("settingsPanel");
+        compare(note.mapToItem(panel, 0, note.height).y, panel.height - 24);
+        content.height = 900;
+        compare(note.mapToItem(panel, 0, note.height).y, 900 - 24);
+        compare(title.mapToItem(panel, 0, 0).y, 24);
+    }
+
+    function test_everythingIsReachedByTab() {
+        const reached = [];
+        content.forceActiveFocus();
+        for (let i = 0; i < 20; ++i) {
+            keyClick(Qt.Key_Tab);
+            const item = content.Window.activeFocusItem;
+            const name = item.text ?? item.Accessible.name;
+            if (reached.includes(name))
+                break;
+            reached.push(name);
+        }
+        compare(reached.slice(0, 9), ["Passwort", "Länge", "Kleinbuchstaben", "Großbuchstaben", "Zahlen", "Sonderzeichen", "Ähnliche Zeichen vermeiden", "Jede Gruppe muss vorkommen", content.model.generated]);
+        compare(reached.slice(9, 11), ["Neu erzeugen", "Kopieren"]);
+    }
+
     function test_thePickerSwitchesTheMode() {
         const segments = content.model.modeTitles;
         compare(segments, ["Passwort", "Passphrase"]);

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "FakeDesktop.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <chrono>
+
+/// Lets a view test be the system: its appearance, its font, its clock, its clipboard.
+class FakeSystem : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    using QObject::QObject;
+
+    Q_INVOKABLE static void setAppearance(bool dark, bool reducedMotion)
+    {
+        FakeAppearance::set({.dark = dark, .reducedMotion = reducedMotion});
+    }
+
+    Q_INVOKABLE static void setFontPixelSize(int pixels)
+    {
+        QFont font = QGuiApplication::font();
+        font.setPixelSize(pixels);
+        QGuiApplication::setFont(font);
+    }
+
+    /// What a paste would yield; "(leer)" while the clipboard is empty.
+    Q_INVOKABLE [[nodiscard]] static QString clipboardText()
+    {
+        return FakeClipboard::text().value_or(QStringLiteral("(leer)"));
+    }
+
+    Q_INVOKABLE static void advanceClock(int milliseconds)
+    {
+        FakeClock::advance(std::chrono::milliseconds(milliseconds));
+    }
+};
