@@ -1,0 +1,349 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""A Wayland desktop of its own for the program under test: sway without a screen, and buses."""
+
+import json
+import os
+import shutil
+import socket
+import struct
+import subprocess
+import time
+
+from desktop import ARTIFACTS, Desktop, Program, output, until
+
+APPLICATION = "de.morvane.Morvane"
+
+WIDTH, HEIGHT = 1280, 900
+"""The output's size in the compositor's coordinates, whatever its scale."""
+
+CONFIGURATION = f"""
+xwayland disable
+output * mode --custom {WIDTH}x{HEIGHT}
+for_window [app_id="{APPLICATION}"] floating enable
+"""
+
+LEFT_BUTTON = 0x110
+"""Linux's code for it."""
+
+KEYMAP = b"""
+xkb_keymap {
+    xkb_keycodes { include "evdev+aliases(qwertz)" };
+    xkb_types { include "complete" };
+    xkb_compat { include "complete" };
+    xkb_symbols { include "pc+de+inet(evdev)" };
+};
+\0"""
+
+MODIFIERS = {"shift": (42, 1), "ctrl": (29, 4), "alt": (56, 8)}
+"""For each its key and its bit."""
+
+KEYS = {
+    "Escape": 1,
+    "BackSpace": 14,
+    "Tab": 15,
+    "Return": 28,
+    "space": 57,
+    "F10": 68,
+    "Home": 102,
+    "Up": 103,
+    "Left": 105,
+    "Right": 106,
+    "End": 107,
+    "Down": 108,
+    "Delete": 111,
+    **{letter: 2 + place for place, letter in enumerate("1234567890")},
+    **{letter: 16 + place for place, letter in enumerate("qwertzuiop")},
+    **{letter: 30 + place for place, letter in enumerate("asdfghjkl")},
+    **{letter: 44 + place for place, letter in enumerate("yxcvbnm")},
+}
+"""Linux's codes of the keys where they are on a German keyboard."""
+
+
+class WaylandDesktop(Desktop):
+    """Starts everything on creation; `close` ends exactly what was started."""
+
+    _input = None
+
+    def _start_display(self):
+        os.environ["QT_QPA_PLATFORM"] = "wayland"
+        # Qt keeps what it has bound of Wayland until the end, and the graphics driver that it loads
+        # and unloads leaks as well. Leaks of the program's own show on X11.
+        os.environ["ASAN_OPTIONS"] = ":".join(
+            [os.environ.get("ASAN_OPTIONS", ""), "detect_leaks=0"]
+        )
+        self._folder.chmod(0o711)  # the compositor may be another user
+        folder = self._folder / "sway"
+        folder.mkdir(mode=0o700)
+        configuration = folder / "config"
+        configuration.write_text(CONFIGURATION, encoding="ascii")
+        command = ["sway", "--config", str(configuration)]
+        if os.geteuid() == 0:  # as whom sway refuses to run
+            for path in (folder, configuration):
+                shutil.chown(path, "nobody", "nogroup")
+            command[:0] = ["setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups"]
+        self._start(
+            command,
+            cwd=folder,
+            env={
+                "HOME": str(folder),
+                "PATH": os.environ["PATH"],
+                "WLR_BACKENDS": "headless",
+                "WLR_LIBINPUT_NO_DEVICES": "1",
+                "WLR_RENDERER": "pixman",
+                "XDG_RUNTIME_DIR": str(folder),
+            },
+        )
+        os.environ["SWAYSOCK"] = until(lambda: a_socket(folder, "sway-ipc.*"), "sway's socket")
+        os.environ["WAYLAND_DISPLAY"] = until(
+            lambda: a_socket(folder, "wayland-?"), "the compositor's socket"
+        )
+        until(lambda: self._output()["rect"]["width"] == WIDTH, "an output of that size")
+        self._input = VirtualInput(os.environ["WAYLAND_DISPLAY"])
+
+    def close(self):
+        if self._input is not None:
+            self._input.close()
+        super().close()
+
+    def tree(self):
+        """Sway's tree of outputs, workspaces and windows."""
+        return json.loads(output("swaymsg", "--raw", "--type", "get_tree"))
+
+    def views(self):
+        """The nodes of the program's windows in the tree."""
+        found, nodes = [], [self.tree()]
+        while nodes:
+            node = nodes.pop()
+            nodes += node["nodes"] + node["floating_nodes"]
+            if node.get("app_id") == APPLICATION:
+                found.append(node)
+        return found
+
+    def view(self, process):
+        """The node of the visible window of `process`."""
+        return until(
+            lambda: next(
+                (node for node in self.views() if node["pid"] == process.pid and node["visible"]),
+                None,
+            ),
+            "a visible window",
+        )
+
+    def command(self, *words):
+        """Has sway carry out a command."""
+        subprocess.run(["swaymsg", "--quiet", "--", *words], check=True)
+
+    def focus(self, node):
+        self.command(f"[con_id={node['id']}]", "focus")
+
+    def kill(self, node):
+        """Asks the window to close."""
+        self.command(f"[con_id={node['id']}]", "kill")
+
+    def set_scale(self, factor):
+        """Changes the output's scale and its pixels alike, so that windows find the same room."""
+        mode = f"{round(WIDTH * factor)}x{round(HEIGHT * factor)}"
+        self.command("output", "*", "mode", "--custom", mode, "scale", str(factor))
+        until(
+            lambda: self._output()["scale"] == factor and self._output()["rect"]["width"] == WIDTH,
+            f"a scale of {factor}",
+        )
+
+    @staticmethod
+    def _output():
+        answer = output("swaymsg", "--raw", "--type", "get_outputs")
+        return json.loads(answer)[0] if answer else {"rect": {"width": 0}}
+
+    def move(self, x, y):
+        """Moves the pointer to a place in the compositor's coordinates."""
+        self._input.move(x, y)
+
+    def press(self, button=LEFT_BUTTON):
+        self._input.button(button, True)
+
+    def release(self, button=LEFT_BUTTON):
+        self._input.button(button, False)
+
+    def click(self, x, y):
+        self.move(x, y)
+        self.press()
+        self.release()
+
+    def key(self, *chords):
+        """Strikes one key after the other, each like "Tab" or "ctrl+shift+r"."""
+        for chord in chords:
+            self._input.strike(*chord.split("+"))
+
+    def screenshot(self, name, node=None):
+        """A picture of everything, or of a window alone."""
+        ARTIFACTS.mkdir(parents=True, exist_ok=True)
+        file = ARTIFACTS / f"{name}.png"
+        area = ["-g", "{x},{y} {width}x{height}".format(**node["rect"])] if node else []
+        subprocess.run(["grim", *area, str(file)], check=True)
+        return file
+
+
+class WaylandProgram(Program):
+    """The program under test on a Wayland desktop. Use it in a `with` block, which ends it."""
+
+    def window(self):
+        """Sway's node of the window, once it is on the screen."""
+        return self.desktop.view(self.process)
+
+    def activate(self):
+        """Gives the window the keyboard, and returns once the program knows."""
+        import pyatspi
+
+        self.desktop.focus(self.window())
+        # A shortcut that comes earlier finds no active window and is lost.
+        self.find(
+            lambda a: a.getRoleName() == "frame" and a.getState().contains(pyatspi.STATE_ACTIVE),
+            "an active window",
+        )
+
+    def place(self, accessible):
+        """The middle of an accessible object in the compositor's coordinates."""
+        import pyatspi
+
+        extents = accessible.queryComponent().getExtents(pyatspi.WINDOW_COORDS)
+        node = self.window()
+        return (
+            node["rect"]["x"] + node["window_rect"]["x"] + extents.x + extents.width // 2,
+            node["rect"]["y"] + node["window_rect"]["y"] + extents.y + extents.height // 2,
+        )
+
+
+class VirtualInput:
+    """A pointer and a keyboard on the compositor's seat, which has none without a screen.
+
+    Speaks Wayland's wire format itself: nothing that Debian has moves a pointer there. The devices
+    stay for the whole run, since windows lose the focus whenever the last keyboard goes.
+    """
+
+    DISPLAY = 1
+
+    def __init__(self, address):
+        self._socket = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
+        self._socket.connect(address)
+        self._last = self.DISPLAY
+        self._globals = {}
+        self._registry = self._new()
+        self._request(self.DISPLAY, 1, self._registry)
+        self._synchronize()
+        seat = self._bind("wl_seat")
+        pointers = self._bind("zwlr_virtual_pointer_manager_v1")
+        keyboards = self._bind("zwp_virtual_keyboard_manager_v1")
+        self._pointer = self._new()
+        self._request(pointers, 0, seat, self._pointer)
+        self._keyboard = self._new()
+        self._request(keyboards, 0, seat, self._keyboard)
+        with os.fdopen(os.memfd_create("keymap"), "wb") as keymap:
+            keymap.write(KEYMAP)
+            keymap.flush()
+            text_of_xkb = 1
+            self._request(
+                self._keyboard, 0, text_of_xkb, len(KEYMAP), descriptor=keymap.fileno()
+            )
+        self._synchronize()
+
+    def close(self):
+        self._socket.close()
+
+    def move(self, x, y):
+        self._request(self._pointer, 1, now(), round(x), round(y), WIDTH, HEIGHT)
+        self._end_of_pointer_event()
+
+    def button(self, code, pressed):
+        self._request(self._pointer, 2, now(), code, int(pressed))
+        self._end_of_pointer_event()
+
+    def _end_of_pointer_event(self):
+        self._request(self._pointer, 4)
+        self._synchronize()
+
+    def strike(self, *names):
+        """Presses modifiers and one last key, and releases them."""
+        *held, last = names
+        bits = 0
+        for name in held:
+            code, bit = MODIFIERS[name]
+            bits |= bit
+            self._key(code, True, bits)
+        self._key(KEYS[last], True, bits)
+        self._key(KEYS[last], False, bits)
+        for name in reversed(held):
+            code, bit = MODIFIERS[name]
+            bits &= ~bit
+            self._key(code, False, bits)
+        self._synchronize()
+
+    def _key(self, code, pressed, bits):
+        self._request(self._keyboard, 1, now(), code, int(pressed))
+        # The compositor leaves it to the device to say what its keys amount to.
+        self._request(self._keyboard, 2, bits, 0, 0, 0)
+
+    def _new(self):
+        self._last += 1
+        return self._last
+
+    def _bind(self, interface):
+        if interface not in self._globals:
+            raise AssertionError(f"the compositor does not offer {interface}")
+        bound = self._new()
+        name = interface.encode() + b"\0"
+        padded = name + b"\0" * (-len(name) % 4)
+        self._request(
+            self._registry, 0, self._globals[interface], len(name), padded, 1, bound
+        )
+        return bound
+
+    def _request(self, target, opcode, *arguments, descriptor=None):
+        body = b"".join(
+            argument if isinstance(argument, bytes) else struct.pack("=I", argument)
+            for argument in arguments
+        )
+        message = struct.pack("=II", target, (len(body) + 8) << 16 | opcode) + body
+        if descriptor is None:
+            self._socket.sendall(message)
+        else:
+            socket.send_fds(self._socket, [message], [descriptor])
+
+    def _synchronize(self):
+        """Returns once the compositor has seen to every request."""
+        callback = self._new()
+        self._request(self.DISPLAY, 0, callback)
+        while True:
+            sender, opcode, body = self._event()
+            if sender == callback:
+                return
+            if sender == self.DISPLAY and opcode == 0:
+                complaint = body[12:].rstrip(b"\0").decode(errors="replace")
+                raise AssertionError(f"the compositor objects: {complaint}")
+            if sender == self._registry and opcode == 0:
+                name, length = struct.unpack_from("=II", body)
+                self._globals[body[8 : 8 + length - 1].decode()] = name
+
+    def _event(self):
+        sender, word = struct.unpack("=II", self._read(8))
+        return sender, word & 0xFFFF, self._read((word >> 16) - 8)
+
+    def _read(self, size):
+        data = b""
+        while len(data) < size:
+            part = self._socket.recv(size - len(data))
+            if not part:
+                raise AssertionError("the compositor has hung up")
+            data += part
+        return data
+
+
+def now():
+    """Milliseconds, as the input devices stamp their events."""
+    return time.monotonic_ns() // 1_000_000 & 0xFFFFFFFF
+
+
+def a_socket(folder, pattern):
+    """The path of a socket in `folder`, once there is one."""
+    return next((str(path) for path in folder.glob(pattern) if path.is_socket()), None)
