@@ -10,7 +10,7 @@ PopupMenu {
 
     // The field that had the keyboard last; if none had, text is selected in and copied from the
     // value.
-    property TextInput field
+    required property TextInput field
     readonly property string selectedText: field ? field.selectedText : value.selectedText
     required property TextEdit value
     required property Window window

@@ -17,9 +17,9 @@ Window {
 
     onActiveFocusItemChanged: {
         if (activeFocusItem instanceof TextInput)
-            frame.menu.field = activeFocusItem;
+            frame.field = activeFocusItem;
         else if (activeFocusItem instanceof TextEdit)
-            frame.menu.field = null;
+            frame.field = null;
     }
 
     ContentView {

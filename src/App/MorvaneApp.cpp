@@ -6,12 +6,14 @@
 #include "Platform/WindowChrome.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickWindow>
 
 #include <cstdlib>
+#include <future>
 #include <iostream>
 
 Q_IMPORT_QML_PLUGIN(Morvane_ViewModelPlugin)
@@ -43,6 +45,12 @@ void leaveGlyphsUnhintedOnScaledDisplays(const QGuiApplication& application)
     QGuiApplication::setFont(font);
 }
 
+/// Makes Qt look for the fonts, which takes longer than all else before the first text is drawn.
+void readFontDatabase(const QFont& font)
+{
+    QFontMetricsF(font).height();
+}
+
 } // namespace
 
 int MorvaneApp::run(int argc, char** argv) const
@@ -59,6 +67,9 @@ int MorvaneApp::run(int argc, char** argv) const
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(handler);
     leaveGlyphsUnhintedOnScaledDisplays(application);
+    // While the window is being loaded.
+    const std::future<void> fonts
+        = std::async(std::launch::async, readFontDatabase, QGuiApplication::font());
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

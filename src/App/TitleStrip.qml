@@ -8,8 +8,10 @@ import Morvane.Views
 Item {
     id: root
 
-    required property MainMenu menu
     required property Window window
+
+    // Someone wants to see the menu of this button, or no longer.
+    signal menuToggled(Item button)
 
     readonly property bool maximized: window.visibility === Window.Maximized || window.visibility === Window.FullScreen
 
@@ -53,12 +55,7 @@ Item {
             symbol: "menu"
             text: "Menü"
 
-            onClicked: {
-                if (root.menu.visible)
-                    root.menu.close();
-                else
-                    root.menu.popup(menuButton, menuButton.width - root.menu.width, menuButton.height + 4);
-            }
+            onClicked: root.menuToggled(menuButton)
         }
 
         FrameButton {
@@ -95,6 +92,6 @@ Item {
     Shortcut {
         sequence: "F10"
 
-        onActivated: menuButton.clicked()
+        onActivated: root.menuToggled(menuButton)
     }
 }

@@ -7,7 +7,8 @@ import Morvane.Views
 Item {
     id: root
 
-    readonly property alias menu: menu
+    // The field that had the keyboard last, if it was not the value.
+    property TextInput field
     required property TextEdit value
     required property Window window
 
@@ -15,8 +16,13 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        menu: menu
         window: root.window
+
+        onMenuToggled: button => {
+            const menu = loader.item as MainMenu;
+            if (menu)
+                menu.toggle(button);
+        }
     }
 
     ResizeBorder {
@@ -32,10 +38,17 @@ Item {
         visible: root.window.visibility === Window.Windowed
     }
 
-    MainMenu {
-        id: menu
+    // The first frame does without.
+    Loader {
+        id: loader
 
-        value: root.value
-        window: root.window
+        asynchronous: true
+
+        sourceComponent: MainMenu {
+            field: root.field
+            parent: root
+            value: root.value
+            window: root.window
+        }
     }
 }

@@ -51,11 +51,21 @@ FocusScope {
         objectName: "resultPanel"
     }
 
-    ErrorAlert {
-        message: root.model.errorMessage
-        objectName: "errorAlert"
-        visible: root.model.errorPresented
+    // Built when it is first needed, and kept from then on.
+    Loader {
+        readonly property bool wanted: root.model.errorPresented
 
-        onDismissed: root.model.errorPresented = false
+        active: false
+
+        sourceComponent: ErrorAlert {
+            message: root.model.errorMessage
+            objectName: "errorAlert"
+            parent: root
+            visible: root.model.errorPresented
+
+            onDismissed: root.model.errorPresented = false
+        }
+
+        onWantedChanged: active = true
     }
 }

@@ -14,7 +14,7 @@ TestCase {
     property ContentView content: null
 
     function alertIsShown(): bool {
-        return findChild(content, "errorAlert").opened;
+        return findChild(content, "errorAlert")?.opened ?? false; // built when first needed
     }
 
     function init() {
