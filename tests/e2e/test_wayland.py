@@ -5,10 +5,11 @@
 
 import os
 import re
+import subprocess
 import unittest
 from unittest import mock
 
-from desktop import first, output, until
+from desktop import ARTIFACTS, Desktop, Program, first, output, until
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
 
 
@@ -95,6 +96,44 @@ class Wayland(unittest.TestCase):
             ),
             errors,
         )
+
+class SameLook(unittest.TestCase):
+    """Glyphs that are measured for one scale and drawn for another are cut off."""
+
+    SETTINGS = "540x1180+10+20"
+    """The left panel without the window's edge, at twice its size: it holds no secret."""
+
+    def test_a_large_scale_looks_as_on_x11(self):
+        ours, theirs = ARTIFACTS / "x11-2.png", ARTIFACTS / "wayland-2-settings.png"
+        desktop = Desktop()
+        try:
+            variables = {"QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": "2"}
+            with Program(desktop, variables=variables) as program:
+                program.picture(ours)
+        finally:
+            desktop.close()
+
+        desktop = WaylandDesktop()
+        self.addCleanup(desktop.close)
+        desktop.set_scale(2)
+        desktop.move(0, 0)  # off the window
+        with WaylandProgram(desktop) as program:
+            window = program.window()
+            until(
+                lambda: colours(desktop.screenshot("wayland-2-settings", window)) > 200
+                and self.difference(ours, theirs) == 0,
+                "the picture of X11",
+            )
+
+    def difference(self, *pictures):
+        """How many pixels differ."""
+        answer = subprocess.run(
+            ["compare", "-metric", "AE", "-extract", self.SETTINGS, *map(str, pictures), "null:"],
+            stderr=subprocess.PIPE,
+            text=True,
+            check=False,
+        )
+        return int(answer.stderr)
 
 
 if __name__ == "__main__":
