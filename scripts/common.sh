@@ -24,6 +24,17 @@ fail() {
     exit 1
 }
 
+# Builds the program, and nothing if nothing has changed.
+build_program() {
+    # Presets are read by a configuration only; to everything else the build tool attends.
+    if ! [[ build/release/build.ninja -nt CMakePresets.json ]]; then
+        cmake --preset release -DBUILD_TESTING=OFF
+    fi
+    if ! ninja -C build/release -n morvane | grep -q 'no work to do'; then
+        cmake --build --preset release --target morvane
+    fi
+}
+
 # own_sources EXTENSION... prints the paths of our files with these endings, each ended by NUL.
 own_sources() {
     local extension

@@ -50,6 +50,13 @@ packages[e2e]='
     xclip
 '
 
+packages[bench]='
+    dbus
+    libbenchmark-dev
+    python3-xlib
+    xvfb
+'
+
 packages[test]='
     clang-format
     clang-tidy

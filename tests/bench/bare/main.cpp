@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+// The yardstick for the program's window: the least that a window of Qt Quick on the same renderer
+// can be.
+
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+
+    QQmlApplicationEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.load(QStringLiteral("qrc:/qt/qml/BareWindow/Main.qml"));
+    if (engine.rootObjects().isEmpty())
+        return EXIT_FAILURE;
+    return QGuiApplication::exec();
+}
