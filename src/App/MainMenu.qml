@@ -15,6 +15,15 @@ PopupMenu {
     required property TextEdit value
     required property Window window
 
+    signal openWindow(string identifier)
+
+    AboutCommand {
+        onOpenWindow: identifier => root.openWindow(identifier)
+    }
+
+    MenuDivider {
+    }
+
     MenuCommand {
         action: T.Action {
             enabled: root.selectedText !== ""

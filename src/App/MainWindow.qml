@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQml.Models
 import QtQuick
 import Morvane.Views
 
@@ -37,5 +39,31 @@ Window {
         value: content.value.editor
         visible: root.drawsFrame
         window: root
+
+        onOpenWindow: identifier => root.openWindow(identifier)
+    }
+
+    // Of the About window there is at most one, built afresh each time.
+    Instantiator {
+        id: about
+
+        active: false
+
+        AboutWindow {
+            transientParent: root
+
+            onClosing: about.active = false
+        }
+    }
+
+    // Opens the window of this identifier, or brings it to the front if it is open.
+    function openWindow(identifier: string) {
+        if (identifier !== "about")
+            return;
+        about.active = true;
+        const window = about.object as Window;
+        window.show();
+        window.raise();
+        window.requestActivate();
     }
 }

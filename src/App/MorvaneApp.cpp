@@ -3,11 +3,14 @@
 
 #include "App/MorvaneApp.h"
 
+#include "Platform/SystemMenu.h"
 #include "Platform/WindowChrome.h"
+#include "Views/ApplicationIcon.h"
 
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QQmlApplicationEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickWindow>
@@ -51,6 +54,15 @@ void readFontDatabase(const QFont& font)
     QFontMetricsF(font).height();
 }
 
+/// For desktops that do not know the program by its desktop entry.
+void setWindowIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addPixmap(ApplicationIcon::pixmap(size));
+    QGuiApplication::setWindowIcon(icon);
+}
+
 } // namespace
 
 int MorvaneApp::run(int argc, char** argv) const
@@ -76,10 +88,16 @@ int MorvaneApp::run(int argc, char** argv) const
     engine.setInitialProperties(
         {{QStringLiteral("drawsFrame"), Platform::WindowChrome::isDrawnByProgram()}});
     engine.load(QStringLiteral("qrc:/qt/qml/Morvane/App/MainWindow.qml"));
-    auto* const window = qobject_cast<QWindow*>(engine.rootObjects().value(0));
+    auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
     if (!window)
         return EXIT_FAILURE;
     Platform::WindowChrome::hideTitleBar(*window);
+    Platform::SystemMenu::setAboutCommand(QStringLiteral("Über Morvane"), [window] {
+        QMetaObject::invokeMethod(window, "openWindow", Q_ARG(QString, QStringLiteral("about")));
+    });
+    // Nobody waits for it, and the first frame shall not either.
+    QObject::connect(window, &QQuickWindow::frameSwapped, window, setWindowIcon,
+                     Qt::SingleShotConnection);
     window->show();
     return QGuiApplication::exec();
 }

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQml.Models
 import QtQuick
 import Morvane.Views
 
@@ -9,8 +11,12 @@ Item {
 
     // The field that had the keyboard last, if it was not the value.
     property TextInput field
+    // The button that asked for the menu before it was built.
+    property Item menuButton
     required property TextEdit value
     required property Window window
+
+    signal openWindow(string identifier)
 
     TitleStrip {
         anchors.left: parent.left
@@ -19,9 +25,11 @@ Item {
         window: root.window
 
         onMenuToggled: button => {
-            const menu = loader.item as MainMenu;
+            const menu = instantiator.object as MainMenu;
             if (menu)
                 menu.toggle(button);
+            else
+                root.menuButton = button;
         }
     }
 
@@ -39,16 +47,23 @@ Item {
     }
 
     // The first frame does without.
-    Loader {
-        id: loader
+    Instantiator {
+        id: instantiator
 
         asynchronous: true
 
-        sourceComponent: MainMenu {
+        MainMenu {
             field: root.field
             parent: root
             value: root.value
             window: root.window
+
+            onOpenWindow: identifier => root.openWindow(identifier)
+        }
+
+        onObjectAdded: (index, menu) => {
+            if (root.menuButton)
+                (menu as MainMenu).toggle(root.menuButton);
         }
     }
 }

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQml.Models
 import QtQuick
 import Morvane.ViewModel
 
@@ -52,12 +54,12 @@ FocusScope {
     }
 
     // Built when it is first needed, and kept from then on.
-    Loader {
-        readonly property bool wanted: root.model.errorPresented
+    Instantiator {
+        readonly property bool needed: root.model.errorPresented
 
         active: false
 
-        sourceComponent: ErrorAlert {
+        ErrorAlert {
             message: root.model.errorMessage
             objectName: "errorAlert"
             parent: root
@@ -66,6 +68,6 @@ FocusScope {
             onDismissed: root.model.errorPresented = false
         }
 
-        onWantedChanged: active = true
+        onNeededChanged: active = true
     }
 }

@@ -9,7 +9,7 @@ T.MenuItem {
 
     readonly property color foreground: highlighted ? Style.accentText : Style.text
     // The names of keys on a German keyboard.
-    readonly property string keys: String(action.shortcut).replace("Ctrl", "Strg").replace("Shift", "Umschalt")
+    readonly property string keys: String(action.shortcut ?? "").replace("Ctrl", "Strg").replace("Shift", "Umschalt")
 
     font.hintingPreference: Style.hintingPreference
     font.pixelSize: Style.bodySize

@@ -14,11 +14,13 @@ QtObject {
     readonly property bool dark: appearance.dark
     readonly property real textScale: appearance.textScale
 
+    readonly property int titleSize: scaled(22)
     readonly property int title2Size: scaled(17)
     readonly property int headlineSize: scaled(13)
     readonly property int bodySize: scaled(13)
     readonly property int calloutSize: scaled(12)
     readonly property int captionSize: scaled(11)
+    readonly property int caption2Size: scaled(11)
 
     readonly property int longValueSize: scaled(22)
     readonly property int valueSize: scaled(28)
@@ -34,7 +36,7 @@ QtObject {
     readonly property color divider: dark ? "#4a4a4a" : "#d2d2d2"
     readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
     readonly property color secondaryText: dark ? "#b4b4b8" : "#56565b"
-    readonly property color tertiaryText: dark ? "#98989d" : "#6a6a6f"
+    readonly property color tertiaryText: dark ? "#a0a0a5" : "#6a6a6f"
 
     readonly property color controlTrack: dark ? "#5a5a5d" : "#c8c8cc"
     readonly property color controlTrackHovered: dark ? "#666669" : "#bcbcc1"

@@ -55,6 +55,12 @@ def show_menu(program):
     program.find(lambda a: a.name == "Morvane beenden", "the menu")
 
 
+def show_about(program):
+    show_menu(program)
+    program.press("Über Morvane")
+    program.find(lambda a: a.name == "Version 1.1", "the About window")
+
+
 STATES = {
     "password": show_password,
     "long-password": show_long_password,
@@ -64,6 +70,7 @@ STATES = {
     "long-passphrase": show_long_passphrase,
     "alert": show_alert,
     "menu": show_menu,
+    "about": show_about,
 }
 
 

@@ -200,6 +200,7 @@ class Frame(unittest.TestCase):
         self.assertEqual(
             names,
             [
+                "Über Morvane",
                 "Kopieren",
                 "Alles auswählen",
                 "Fenster minimieren",
@@ -212,7 +213,7 @@ class Frame(unittest.TestCase):
 
     def test_the_menu_is_walked_by_arrow_keys(self):
         self.open_menu()
-        key("Down", "Down", "Down", "Down", "Return")
+        key("Down", "Down", "Down", "Down", "Down", "Return")
         self.assertEqual(self.program.ended(), (0, ""))
 
     def test_the_menu_button_opens_and_closes_the_menu(self):

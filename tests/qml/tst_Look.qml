@@ -147,6 +147,17 @@ TestCase {
         verifyContrasts(alert.contentItem, 3);
     }
 
+    function test_contrastInTheAboutView_data() {
+        return test_contrast_data();
+    }
+
+    function test_contrastInTheAboutView(data) {
+        // In this order, for otherwise the colours would take their time.
+        system.setAppearance(false, true);
+        system.setAppearance(data.dark, true);
+        verifyContrasts(about, 6);
+    }
+
     function test_contrastInAMenu_data() {
         return test_contrast_data();
     }
@@ -360,6 +371,15 @@ TestCase {
             width: 48
             x: 100
         }
+    }
+
+    AboutView {
+        id: about
+
+        height: implicitHeight
+        width: implicitWidth
+        x: 1000
+        y: 300
     }
 
     PopupMenu {

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/SystemMenu.h"
+
+#import <AppKit/AppKit.h>
+
+/// What the menu item calls.
+@interface MorvaneAboutTarget : NSObject {
+@public
+    std::function<void()> chosen;
+}
+- (void)choose:(id)sender;
+@end
+
+@implementation MorvaneAboutTarget
+- (void)choose:(id)sender
+{
+    chosen();
+}
+@end
+
+namespace Platform::SystemMenu {
+
+void setAboutCommand(const QString& title, const std::function<void()>& chosen)
+{
+    // A menu item does not keep its target alive.
+    static MorvaneAboutTarget* const target = [[MorvaneAboutTarget alloc] init];
+    target->chosen = chosen;
+
+    NSMenu* const menu = [[[NSApp mainMenu] itemAtIndex:0] submenu];
+    if ([menu numberOfItems] > 0 &&
+        [[menu itemAtIndex:0] action] == @selector(orderFrontStandardAboutPanel:))
+        [menu removeItemAtIndex:0];
+    NSMenuItem* const item = [menu insertItemWithTitle:title.toNSString()
+                                                action:@selector(choose:)
+                                         keyEquivalent:@""
+                                               atIndex:0];
+    [item setTarget:target];
+}
+
+} // namespace Platform::SystemMenu
