@@ -85,12 +85,13 @@ private:
     void replaceContents(const QMimeData* contents)
     {
         m_contents = contents;
+        m_holdsOurs = contents != nullptr;
         ++m_changeCount;
     }
 
     void noticeLoss()
     {
-        if (m_contents && !(m_clipboard->ownsClipboard() && m_clipboard->mimeData() == m_contents))
+        if (m_holdsOurs && (!m_contents || m_clipboard->mimeData() != m_contents))
             replaceContents(nullptr);
     }
 
@@ -121,7 +122,8 @@ private:
     QClipboard* const m_clipboard = QGuiApplication::clipboard();
     std::int64_t m_changeCount = 0;
     /// What the clipboard holds of ours. Compared, never looked into.
-    const QMimeData* m_contents = nullptr;
+    QPointer<const QMimeData> m_contents;
+    bool m_holdsOurs = false;
     /// Tells what was written last from all else, without keeping it.
     QByteArray m_written;
     QTimer m_soon;

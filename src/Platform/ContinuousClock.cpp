@@ -22,7 +22,7 @@ public:
     Sleep(std::chrono::milliseconds wait, std::function<void()> task)
         : QObject(QCoreApplication::instance())
         , m_timer(wait)
-        , m_due(m_timer.descriptor(), QSocketNotifier::Read)
+        , m_due(QSocketNotifier::Read)
         , m_task(std::move(task))
     {
         // Without a descriptor, a wait that stands still while the machine sleeps is better than
@@ -34,6 +34,8 @@ public:
             m_substitute.start(wait);
         } else {
             connect(&m_due, &QSocketNotifier::activated, this, [this] { finish(); });
+            m_due.setSocket(m_timer.descriptor());
+            m_due.setEnabled(true);
         }
     }
 

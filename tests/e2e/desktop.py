@@ -42,7 +42,7 @@ class Desktop:
         runtime = self._folder / "runtime"
         runtime.mkdir(mode=0o700)
         # AT-SPI in this very process has to find the same buses, hence the real environment.
-        for name in ("WAYLAND_DISPLAY", "DISPLAY", "AT_SPI_BUS_ADDRESS"):
+        for name in ("WAYLAND_DISPLAY", "DISPLAY", "AT_SPI_BUS_ADDRESS", "QT_QPA_PLATFORM"):
             os.environ.pop(name, None)
         os.environ.update(
             HOME=str(self.home),

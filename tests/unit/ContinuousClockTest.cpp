@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/ContinuousClock.h"
+
+#include "Platform/ContinuousTimer.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <ctime>
+#include <vector>
+
+#include <sys/resource.h>
+
+namespace {
+
+using Platform::ContinuousTimer;
+using std::chrono::milliseconds;
+using std::chrono::nanoseconds;
+using std::chrono::steady_clock;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// What the kernel says of the timers of this process: for each the number of its clock.
+std::vector<int> clocksOfTimers()
+{
+    std::vector<int> clocks;
+    const QDir folder(QStringLiteral("/proc/self/fdinfo"));
+    for (const QString& name : folder.entryList(QDir::Files)) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue; // closed meanwhile, as is the one of the folder itself
+        QTextStream lines(&file);
+        for (QString line = lines.readLine(); !line.isNull(); line = lines.readLine()) {
+            if (line.startsWith(QLatin1String("clockid:")))
+                clocks.push_back(line.section(QLatin1Char(':'), 1).trimmed().toInt());
+        }
+    }
+    return clocks;
+}
+
+class ContinuousClockTest : public testing::Test
+{
+protected:
+    void runUntil(const bool& done)
+    {
+        while (!done)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+private:
+    int m_argumentCount = 1;
+    std::string m_name = "ContinuousClockTest";
+    std::vector<char*> m_arguments{m_name.data(), nullptr};
+    QCoreApplication m_application{m_argumentCount, m_arguments.data()};
+};
+
+TEST_F(ContinuousClockTest, CountsTimeAsleep)
+{
+    ASSERT_THAT(clocksOfTimers(), IsEmpty());
+    const ContinuousTimer timer(std::chrono::seconds(30));
+    EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
+}
+
+TEST_F(ContinuousClockTest, RunsTheTaskOnceWhenDue)
+{
+    bool done = false;
+    int runs = 0;
+    const auto start = steady_clock::now();
+    Platform::ContinuousClock::after(milliseconds(30), [&] {
+        ++runs;
+        done = true;
+    });
+    EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
+    runUntil(done);
+    EXPECT_GE(steady_clock::now() - start, milliseconds(30));
+
+    bool later = false;
+    Platform::ContinuousClock::after(milliseconds(30), [&] { later = true; });
+    runUntil(later);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ContinuousClockTest, LeavesNoTimerBehind)
+{
+    bool done = false;
+    Platform::ContinuousClock::after(milliseconds(0), [&] { done = true; });
+    runUntil(done);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_THAT(clocksOfTimers(), IsEmpty());
+}
+
+TEST_F(ContinuousClockTest, WaitsDoNotDisturbEachOther)
+{
+    std::vector<int> order;
+    bool done = false;
+    Platform::ContinuousClock::after(milliseconds(60), [&] {
+        order.push_back(60);
+        done = true;
+    });
+    Platform::ContinuousClock::after(milliseconds(10), [&] { order.push_back(10); });
+    Platform::ContinuousClock::after(milliseconds(30), [&] { order.push_back(30); });
+    runUntil(done);
+    EXPECT_THAT(order, ElementsAre(10, 30, 60));
+}
+
+TEST_F(ContinuousClockTest, WaitsEvenWhereTheSystemHasNoTimerLeft)
+{
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlimit none = before;
+    none.rlim_cur = 0;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    bool done = false;
+    const auto start = steady_clock::now();
+    Platform::ContinuousClock::after(milliseconds(30), [&] { done = true; });
+    const bool hasTimer = ContinuousTimer(milliseconds(1)).descriptor() >= 0;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_FALSE(hasTimer);
+    runUntil(done);
+    EXPECT_GE(steady_clock::now() - start, milliseconds(30));
+}
+
+TEST_F(ContinuousClockTest, ForgetsWhatIsPendingAtTheEnd)
+{
+    Platform::ContinuousClock::after(std::chrono::hours(1), [] { FAIL() << "at the end"; });
+    EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
+}
+
+} // namespace

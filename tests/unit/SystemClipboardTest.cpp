@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace Clipboard = Platform::Clipboard;
+using testing::Gt;
+using testing::UnorderedElementsAre;
+
+/// On a platform without a clipboard of the system's: Qt keeps one for the program alone.
+class SystemClipboardTest : public testing::Test
+{
+protected:
+    static QClipboard& contents() { return *QGuiApplication::clipboard(); }
+
+private:
+    int m_argumentCount = 3;
+    std::string m_name = "SystemClipboardTest";
+    std::string m_option = "-platform";
+    std::string m_platform = "offscreen";
+    std::vector<char*> m_arguments{m_name.data(), m_option.data(), m_platform.data(), nullptr};
+    QGuiApplication m_application{m_argumentCount, m_arguments.data()};
+};
+
+TEST_F(SystemClipboardTest, HoldsTheSecretAsPlainTextMarkedAsOne)
+{
+    Clipboard::setSecret(QStringLiteral("geheim"));
+    EXPECT_EQ(contents().text(), QStringLiteral("geheim"));
+    EXPECT_THAT(contents().mimeData()->formats(),
+                UnorderedElementsAre(QStringLiteral("text/plain"),
+                                     QStringLiteral("x-kde-passwordManagerHint")));
+    EXPECT_EQ(contents().mimeData()->data(QStringLiteral("x-kde-passwordManagerHint")), "secret");
+}
+
+TEST_F(SystemClipboardTest, CountsWhatItWritesAndClears)
+{
+    const std::int64_t start = Clipboard::changeCount();
+    Clipboard::setSecret(QStringLiteral("geheim"));
+    const std::int64_t written = Clipboard::changeCount();
+    EXPECT_THAT(written, Gt(start));
+    EXPECT_EQ(Clipboard::changeCount(), written);
+    Clipboard::clear();
+    EXPECT_THAT(Clipboard::changeCount(), Gt(written));
+    EXPECT_EQ(contents().text(), QString());
+}
+
+TEST_F(SystemClipboardTest, CountsTheSameSecretAgain)
+{
+    Clipboard::setSecret(QStringLiteral("geheim"));
+    const std::int64_t first = Clipboard::changeCount();
+    Clipboard::setSecret(QStringLiteral("geheim"));
+    EXPECT_THAT(Clipboard::changeCount(), Gt(first));
+}
+
+TEST_F(SystemClipboardTest, CountsAnotherWriterOfTheSameText)
+{
+    Clipboard::setSecret(QStringLiteral("geheim"));
+    const std::int64_t written = Clipboard::changeCount();
+    contents().setText(QStringLiteral("geheim"));
+    EXPECT_THAT(Clipboard::changeCount(), Gt(written));
+}
+
+TEST_F(SystemClipboardTest, AClearedClipboardCanBeClearedAgain)
+{
+    Clipboard::clear();
+    Clipboard::clear();
+    EXPECT_EQ(contents().text(), QString());
+}
+
+} // namespace
