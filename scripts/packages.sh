@@ -58,11 +58,14 @@ packages[bench]='
 '
 
 packages[test]='
+    clang
     clang-format
     clang-tidy
     libbenchmark-dev
     libgmock-dev
+    libgnustep-gui-dev
     libgtest-dev
+    libobjc-12-dev
     qml6-module-qttest
     qt6-declarative-dev-tools
     shellcheck

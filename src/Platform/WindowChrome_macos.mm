@@ -11,7 +11,7 @@ namespace Platform::WindowChrome {
 
 void hideTitleBar(QWindow& window)
 {
-    NSView* const view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+    NSView* const view = reinterpret_cast<NSView*>(window.winId());
     NSWindow* const frame = view.window;
     frame.titlebarAppearsTransparent = YES;
     frame.titleVisibility = NSWindowTitleHidden;

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+// Declarations alone: what the program takes from macOS's AppKit and GNUstep's does not have.
+
+#pragma once
+
+#include_next <AppKit/AppKit.h>
+
+@interface NSPasteboard (MissingInGNUstep)
+- (NSInteger)clearContents;
+@end
+
+typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
+    NSWindowTitleVisible = 0,
+    NSWindowTitleHidden = 1,
+};
+
+@interface NSWindow (MissingInGNUstep)
+@property(readwrite) NSUInteger styleMask;
+@property BOOL titlebarAppearsTransparent;
+@property NSWindowTitleVisibility titleVisibility;
+@end
+
+@interface NSWorkspace (MissingInGNUstep)
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
+@end
