@@ -42,5 +42,5 @@ own_sources() {
     for extension in "$@"; do
         names+=(-o -name "*.$extension")
     done
-    find src tests -type f '(' "${names[@]:1}" ')' -print0 | sort -z
+    find packaging src tests -type f '(' "${names[@]:1}" ')' -print0 | sort -z
 }

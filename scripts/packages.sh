@@ -58,14 +58,17 @@ packages[bench]='
 '
 
 packages[test]='
+    appstream
     clang
     clang-format
     clang-tidy
+    desktop-file-utils
     libbenchmark-dev
     libgmock-dev
     libgnustep-gui-dev
     libgtest-dev
     libobjc-12-dev
+    man-db
     qml6-module-qttest
     qt6-declarative-dev-tools
     shellcheck

@@ -4,11 +4,14 @@
 """The window's own frame under an X11 window manager: buttons, edges, strip and menu."""
 
 import ctypes
+import pathlib
 import re
 import subprocess
 import unittest
 
 from desktop import Desktop, Program, everything, first, key, output, point, until
+
+DESKTOP_ENTRY = pathlib.Path(__file__).parents[2] / "packaging/de.morvane.Morvane.desktop"
 
 
 class CursorImage(ctypes.Structure):
@@ -89,6 +92,12 @@ class Frame(unittest.TestCase):
         self.assertIn("= 0, 0, 0, 0", extents)
         name = output("xprop", "-id", self.window, "_NET_WM_NAME")
         self.assertNotIn("File", name)
+
+    def test_a_dock_finds_the_desktop_entry_by_the_class_of_the_window(self):
+        told = output("xprop", "-id", self.window, "WM_CLASS")
+        window_class = re.fullmatch(r'WM_CLASS\(STRING\) = ".*", "(.*)"\n', told)[1]
+        entry = DESKTOP_ENTRY.read_text(encoding="utf-8").splitlines()
+        self.assertIn(f"StartupWMClass={window_class}", entry)
 
     def test_every_edge_and_corner_resizes(self):
         # Where to take hold, in fractions of the window; which way to go; what becomes of it.

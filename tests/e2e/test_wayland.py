@@ -4,6 +4,7 @@
 """The main window under a Wayland compositor: real window, real pointer, real keys."""
 
 import os
+import pathlib
 import re
 import subprocess
 import unittest
@@ -11,6 +12,8 @@ from unittest import mock
 
 from desktop import ARTIFACTS, Desktop, Program, first, output, until
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
+
+PACKAGING = pathlib.Path(__file__).parents[2] / "packaging"
 
 
 def is_password(accessible):
@@ -44,6 +47,11 @@ class Wayland(unittest.TestCase):
             self.desktop.screenshot("wayland")
             self.desktop.kill(window)
             self.assertEqual(program.ended(), (0, ""))
+
+    def test_a_dock_finds_the_desktop_entry_by_the_id_of_the_window(self):
+        with WaylandProgram(self.desktop) as program:
+            entry = PACKAGING / f"{program.window()['app_id']}.desktop"
+            self.assertTrue(entry.is_file(), entry)
 
     def test_a_click_makes_another_password(self):
         with WaylandProgram(self.desktop) as program:

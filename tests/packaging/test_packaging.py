@@ -1,0 +1,136 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""What is installed."""
+
+import configparser
+import gzip
+import os
+import pathlib
+import re
+import struct
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree
+
+SOURCES = pathlib.Path(os.environ["MORVANE_SOURCES"])
+BUILD = pathlib.Path(os.environ["MORVANE_BUILD"])
+VERSION = os.environ["MORVANE_VERSION"]
+PACKAGING = SOURCES / "packaging"
+ID = "de.morvane.Morvane"
+SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
+
+
+def png_size(file):
+    with file.open("rb") as stream:
+        header = stream.read(24)
+    if header[:8] != b"\x89PNG\r\n\x1a\n":
+        raise AssertionError(f"not a PNG picture: {file}")
+    return struct.unpack(">II", header[16:])
+
+
+class Installation(unittest.TestCase):
+    """`cmake --install` into an empty folder."""
+
+    @classmethod
+    def setUpClass(cls):
+        folder = cls.enterClassContext(tempfile.TemporaryDirectory(prefix="morvane-install-"))
+        subprocess.run(
+            [os.environ["CMAKE"], "--install", BUILD, "--prefix", "/usr"],
+            env={**os.environ, "DESTDIR": folder},
+            stdout=subprocess.DEVNULL,
+            check=True,
+        )
+        cls.usr = pathlib.Path(folder) / "usr"
+
+    def test_holds_the_files_of_the_program_and_no_others(self):
+        installed = {
+            str(file.relative_to(self.usr)) for file in self.usr.rglob("*") if file.is_file()
+        }
+        self.assertEqual(
+            installed,
+            {
+                "bin/morvane",
+                "share/applications/de.morvane.Morvane.desktop",
+                "share/doc/morvane/CHANGELOG.md",
+                "share/doc/morvane/LICENSE",
+                "share/doc/morvane/README.md",
+                "share/icons/hicolor/scalable/apps/de.morvane.Morvane.svg",
+                "share/icons/hicolor/symbolic/apps/de.morvane.Morvane-symbolic.svg",
+                "share/man/de/man1/morvane.1.gz",
+                "share/man/man1/morvane.1.gz",
+                "share/metainfo/de.morvane.Morvane.metainfo.xml",
+                *(f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in SIZES),
+            },
+        )
+
+    def test_only_the_program_may_be_run(self):
+        for file in self.usr.rglob("*"):
+            if file.is_file():
+                expected = 0o755 if file.parent.name == "bin" else 0o644
+                self.assertEqual(file.stat().st_mode & 0o777, expected, file)
+
+    def test_the_icons_have_the_sizes_of_their_folders(self):
+        for size in SIZES:
+            icon = self.usr / f"share/icons/hicolor/{size}x{size}/apps/{ID}.png"
+            self.assertEqual(png_size(icon), (size, size))
+
+    def test_the_manual_pages_are_without_faults(self):
+        for page in ("share/man/man1/morvane.1.gz", "share/man/de/man1/morvane.1.gz"):
+            with self.subTest(page):
+                shown = subprocess.run(
+                    ["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", self.usr / page],
+                    env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "MANROFFSEQ": ""},
+                    stdout=subprocess.DEVNULL,
+                    stderr=subprocess.PIPE,
+                    text=True,
+                    check=True,
+                )
+                self.assertEqual(shown.stderr, "")
+
+    def test_the_manual_pages_are_of_this_version(self):
+        for page in ("share/man/man1/morvane.1.gz", "share/man/de/man1/morvane.1.gz"):
+            with gzip.open(self.usr / page, "rt", encoding="utf-8") as text:
+                self.assertIn(f'"Morvane {VERSION}"', text.read())
+
+
+class Metadata(unittest.TestCase):
+    def setUp(self):
+        file = BUILD / f"packaging/{ID}.metainfo.xml"
+        self.metainfo = xml.etree.ElementTree.parse(file).getroot()
+        parser = configparser.ConfigParser(interpolation=None)
+        parser.optionxform = str
+        parser.read(PACKAGING / f"{ID}.desktop", encoding="utf-8")
+        self.entry = parser["Desktop Entry"]
+
+    def test_the_desktop_entry_is_the_one_of_the_metainfo(self):
+        self.assertEqual(self.metainfo.findtext("id"), ID)
+        self.assertEqual(self.metainfo.findtext("launchable"), f"{ID}.desktop")
+        self.assertEqual(self.entry["Icon"], ID)
+        self.assertEqual(self.entry["Exec"], self.metainfo.findtext("provides/binary"))
+
+    def test_both_say_the_same_in_both_languages(self):
+        language = "{http://www.w3.org/XML/1998/namespace}lang"
+        summaries = {s.get(language): s.text for s in self.metainfo.findall("summary")}
+        self.assertEqual(
+            summaries, {None: self.entry["Comment"], "de": self.entry["Comment[de]"]}
+        )
+
+    def test_every_text_of_the_metainfo_is_german_as_well(self):
+        language = "{http://www.w3.org/XML/1998/namespace}lang"
+        for name in ("summary", "p", "li", "caption", "keyword"):
+            texts = [element.get(language) for element in self.metainfo.iter(name)]
+            self.assertGreater(len(texts), 0, name)
+            self.assertEqual(texts.count(None), texts.count("de"), name)
+
+    def test_the_newest_release_is_this_version_everywhere(self):
+        newest = self.metainfo.find("releases/release")
+        self.assertEqual(newest.get("version"), VERSION)
+        changes = (SOURCES / "CHANGELOG.md").read_text(encoding="utf-8")
+        released = re.search(r"^## \[([0-9.]+)\] - (\S+)$", changes, re.MULTILINE)
+        self.assertEqual(released.groups(), (VERSION, newest.get("date")))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
