@@ -75,6 +75,11 @@ packages[test]='
     unicode-data
 '
 
+packages[package]='
+    dpkg-dev
+    file
+'
+
 # Installs what is missing of the named groups; says and does nothing if nothing is.
 ensure_packages() {
     # On other systems the packages have other names and are up to whoever builds.

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""What is installed."""
+"""What is installed, and what the package says."""
 
 import configparser
 import gzip
@@ -130,6 +130,19 @@ class Metadata(unittest.TestCase):
         changes = (SOURCES / "CHANGELOG.md").read_text(encoding="utf-8")
         released = re.search(r"^## \[([0-9.]+)\] - (\S+)$", changes, re.MULTILINE)
         self.assertEqual(released.groups(), (VERSION, newest.get("date")))
+        debian = (PACKAGING / "debian/changelog").read_text(encoding="utf-8")
+        self.assertTrue(debian.startswith(f"morvane ({VERSION}-"), debian)
+
+
+class Debian(unittest.TestCase):
+    def test_the_package_depends_on_the_modules_that_the_program_runs_with(self):
+        listed = (SOURCES / "scripts/packages.sh").read_text(encoding="utf-8")
+        run = re.search(r"packages\[run\]='([^']*)'", listed)[1]
+        recipe = (PACKAGING / "debian/CMakeLists.txt").read_text(encoding="utf-8")
+        depends = re.search(r"set\(qml_modules\n([^)]*)\)", recipe)[1]
+        modules = [package for package in run.split() if package.startswith("qml6-module-")]
+        self.assertGreater(len(modules), 0)
+        self.assertEqual(depends.split(), modules)
 
 
 if __name__ == "__main__":
