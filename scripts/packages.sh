@@ -80,6 +80,12 @@ packages[package]='
     file
 '
 
+# What tests the package in a Debian of its own, on a display from outside of it.
+packages[package-test]='
+    debootstrap
+    lintian
+'
+
 # Installs what is missing of the named groups; says and does nothing if nothing is.
 ensure_packages() {
     # On other systems the packages have other names and are up to whoever builds.
