@@ -63,12 +63,14 @@ packages[test]='
     clang-format
     clang-tidy
     desktop-file-utils
+    icnsutils
     libbenchmark-dev
     libgmock-dev
     libgnustep-gui-dev
     libgtest-dev
     libobjc-12-dev
     man-db
+    python3-yaml
     qml6-module-qttest
     qt6-declarative-dev-tools
     shellcheck

@@ -1,18 +1,21 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""What is installed, and what the package says."""
+"""What is installed, and what the packages for other systems allow themselves."""
 
 import configparser
 import gzip
 import os
 import pathlib
+import plistlib
 import re
 import struct
 import subprocess
 import tempfile
 import unittest
 import xml.etree.ElementTree
+
+import yaml
 
 SOURCES = pathlib.Path(os.environ["MORVANE_SOURCES"])
 BUILD = pathlib.Path(os.environ["MORVANE_BUILD"])
@@ -143,6 +146,69 @@ class Debian(unittest.TestCase):
         modules = [package for package in run.split() if package.startswith("qml6-module-")]
         self.assertGreater(len(modules), 0)
         self.assertEqual(depends.split(), modules)
+
+
+class Flatpak(unittest.TestCase):
+    def setUp(self):
+        text = (PACKAGING / f"flatpak/{ID}.yml").read_text(encoding="utf-8")
+        self.manifest = yaml.safe_load(text)
+
+    def test_is_of_this_program(self):
+        self.assertEqual(self.manifest["id"], ID)
+        self.assertEqual(self.manifest["command"], "morvane")
+        self.assertEqual(self.manifest["runtime"], "org.kde.Platform")
+        self.assertEqual(self.manifest["sdk"], "org.kde.Sdk")
+
+    def test_allows_the_display_and_nothing_else(self):
+        self.assertEqual(
+            set(self.manifest["finish-args"]),
+            # X11's shared memory belongs to the display.
+            {"--socket=wayland", "--socket=fallback-x11", "--share=ipc"},
+        )
+
+    def test_builds_these_sources_without_the_tests(self):
+        (module,) = self.manifest["modules"]
+        self.assertEqual(module["buildsystem"], "cmake-ninja")
+        self.assertIn("-DBUILD_TESTING=OFF", module["config-opts"])
+        (source,) = module["sources"]
+        folder = (PACKAGING / "flatpak" / source["path"]).resolve()
+        self.assertEqual(folder, SOURCES.resolve())
+
+
+class MacBundle(unittest.TestCase):
+    def test_the_entitlements_are_the_sandbox_and_nothing_else(self):
+        entitlements = plistlib.loads((PACKAGING / "macos/Morvane.entitlements").read_bytes())
+        self.assertEqual(entitlements, {"com.apple.security.app-sandbox": True})
+
+    def test_the_bundle_is_described(self):
+        text = (PACKAGING / "macos/Info.plist.in").read_text(encoding="utf-8")
+        values = {
+            "MACOSX_BUNDLE_EXECUTABLE_NAME": "Morvane",
+            "MACOSX_BUNDLE_ICON_FILE": "Morvane.icns",
+            "MACOSX_BUNDLE_BUNDLE_VERSION": VERSION,
+            "MACOSX_BUNDLE_GUI_IDENTIFIER": ID,
+            "MACOSX_BUNDLE_SHORT_VERSION_STRING": VERSION,
+        }
+        filled = re.sub(r"\$\{(\w+)\}", lambda name: values[name[1]], text)
+        bundle = plistlib.loads(filled.encode())
+        self.assertEqual(bundle["CFBundleIdentifier"], ID)
+        self.assertEqual(bundle["CFBundlePackageType"], "APPL")
+        self.assertEqual(bundle["CFBundleShortVersionString"], VERSION)
+        self.assertEqual(bundle["CFBundleExecutable"], "Morvane")
+        self.assertEqual(bundle["CFBundleDevelopmentRegion"], "de")
+        self.assertEqual(bundle["NSHumanReadableCopyright"], "© 2026 Morvane-Projekt")
+
+    def test_the_icon_holds_every_size_that_it_can(self):
+        icns = (BUILD / "packaging/icons/Morvane.icns").read_bytes()
+        kind, length = struct.unpack(">4sI", icns[:8])
+        self.assertEqual((kind, length), (b"icns", len(icns)))
+        kinds, place = [], 8
+        while place < length:
+            kind, size = struct.unpack(">4sI", icns[place : place + 8])
+            kinds.append(kind)
+            place += size
+        pictures = {b"is32": 16, b"il32": 32, b"ih32": 48, b"it32": 128, b"ic08": 256, b"ic09": 512}
+        self.assertEqual([kind for kind in kinds if kind in pictures], list(pictures))
 
 
 if __name__ == "__main__":
