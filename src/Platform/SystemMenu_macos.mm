@@ -32,11 +32,12 @@ void setAboutCommand(const QString& title, const std::function<void()>& chosen)
     if ([menu numberOfItems] > 0 &&
         [[menu itemAtIndex:0] action] == @selector(orderFrontStandardAboutPanel:))
         [menu removeItemAtIndex:0];
-    NSMenuItem* const item = [menu insertItemWithTitle:title.toNSString()
-                                                action:@selector(choose:)
-                                         keyEquivalent:@""
-                                               atIndex:0];
+    NSMenuItem* const item = [[NSMenuItem alloc] initWithTitle:title.toNSString()
+                                                        action:@selector(choose:)
+                                                 keyEquivalent:@""];
     [item setTarget:target];
+    [menu insertItem:item atIndex:0];
+    [item release];
 }
 
 } // namespace Platform::SystemMenu
