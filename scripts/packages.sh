@@ -11,6 +11,7 @@ packages[build]='
     cmake
     g++
     libicu-dev
+    libseccomp-dev
     ninja-build
     qt6-base-dev
     qt6-declarative-dev

@@ -3,6 +3,8 @@
 
 #include "App/MorvaneApp.h"
 
+#include "Platform/Confinement.h"
+#include "Platform/ProcessMemory.h"
 #include "Platform/SystemMenu.h"
 #include "Platform/WindowChrome.h"
 #include "Views/ApplicationIcon.h"
@@ -19,6 +21,7 @@
 #include <future>
 #include <iostream>
 
+Q_IMPORT_QML_PLUGIN(Morvane_AppPlugin)
 Q_IMPORT_QML_PLUGIN(Morvane_ViewModelPlugin)
 Q_IMPORT_QML_PLUGIN(Morvane_ViewsPlugin)
 
@@ -67,6 +70,10 @@ void setWindowIcon()
 
 int MorvaneApp::run(int argc, char** argv) const
 {
+    Platform::ProcessMemory::hide();
+    // Connecting to the display starts threads, and these shall be bound as well.
+    Platform::Confinement::closeFiles();
+
     QCoreApplication::setApplicationName(QStringLiteral("morvane"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Morvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
@@ -78,6 +85,9 @@ int MorvaneApp::run(int argc, char** argv) const
     const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(handler);
+    // Before anything secret is drawn, and with the display already reached: that one may be on
+    // another machine.
+    Platform::Confinement::closeSystem();
     leaveGlyphsUnhintedOnScaledDisplays(application);
     // While the window is being loaded.
     const std::future<void> fonts

@@ -108,9 +108,20 @@ class Desktop:
 
 
 class Program:
-    """The program under test. Use it in a `with` block, which ends it."""
+    """The program under test. Use it in a `with` block, which ends it.
 
-    def __init__(self, desktop, preload=None, with_display=True, variables=None):
+    `under` is a command that turns into the program named after it.
+    """
+
+    def __init__(
+        self,
+        desktop,
+        preload=None,
+        with_display=True,
+        variables=None,
+        program=PROGRAM,
+        under=(),
+    ):
         self.desktop = desktop
         environment = {**os.environ, **(variables or {})}
         environment.pop("XDG_CACHE_HOME")
@@ -123,7 +134,7 @@ class Program:
         if not with_display:
             environment.pop("DISPLAY")
         self.process = subprocess.Popen(
-            [PROGRAM],
+            [*under, program],
             env=environment,
             stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE,

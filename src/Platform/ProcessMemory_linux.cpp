@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "Platform/ProcessMemory.h"
+
+#include <cstring>
+
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+namespace Platform::ProcessMemory {
+
+void hide() noexcept
+{
+#ifdef NDEBUG
+    // A handler that dumps are piped to gets none of a process that cannot be dumped, but where
+    // dumps are files, the limit counts as well.
+    const rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): it has no other form
+    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
+#endif
+}
+
+void wipe(std::span<std::byte> bytes) noexcept
+{
+    ::explicit_bzero(bytes.data(), bytes.size());
+}
+
+} // namespace Platform::ProcessMemory

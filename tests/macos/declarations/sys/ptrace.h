@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+// Declarations alone: what the program takes from macOS's process tracing.
+
+#pragma once
+
+#include <sys/types.h>
+
+enum { PT_DENY_ATTACH = 31 };
+
+extern "C" int ptrace(int request, pid_t process, char* address, int data);
