@@ -19,6 +19,32 @@ add_compile_definitions(QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_NO_CAST_FROM_AS
 # build the same program.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
 
+# Faults in memory shall end the program before anybody can make use of them.
+include(CheckCXXCompilerFlag)
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+foreach(protection -fcf-protection=full -mbranch-protection=standard -fstack-clash-protection)
+    string(MAKE_C_IDENTIFIER "MORVANE_HAS${protection}" has_protection)
+    check_cxx_compiler_flag(${protection} ${has_protection})
+    if(${has_protection})
+        add_compile_options(${protection})
+    endif()
+endforeach()
+add_compile_options(-fstack-protector-strong)
+add_compile_definitions(_GLIBCXX_ASSERTIONS)
+if(CMAKE_SYSTEM_NAME STREQUAL Linux)
+    add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
+    # The C library's start files, of which Debian's do not say that they bear a shadow stack, do:
+    # they only call and return. They lack the marks of indirect branches' targets.
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL x86_64)
+        add_link_options(-Wl,-z,shstk)
+    endif()
+endif()
+# It needs an optimiser, and stands in the way of the sanitizers.
+if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+endif()
+
 # Linked privately by every target that holds nothing but code of our own.
 add_library(MorvaneWarnings INTERFACE)
 target_compile_options(
