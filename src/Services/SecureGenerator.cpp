@@ -5,7 +5,11 @@
 
 #include "Model/GeneratorError.h"
 #include "Model/UnicodeText.h"
+#include "Platform/ProcessMemory.h"
 #include "Platform/SecureRandom.h"
+#include "Services/SecretText.h"
+
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <array>
@@ -41,6 +45,9 @@ constexpr std::array<bool, 128> isAmbiguous = [] {
     return table;
 }();
 
+constexpr qsizetype longestWord
+    = std::ssize(*std::ranges::max_element(SecureGenerator::words, {}, &std::string_view::size));
+
 /// The characters that a password draws from, group after group.
 class CharacterPool final
 {
@@ -57,7 +64,10 @@ public:
             append(SecureGenerator::symbols, settings.avoidAmbiguous);
     }
 
-    ~CharacterPool() = default;
+    ~CharacterPool()
+    {
+        Platform::ProcessMemory::wipe(std::as_writable_bytes(std::span(m_characters)));
+    }
 
     [[nodiscard]] std::span<const char> characters() const
     {
@@ -93,6 +103,22 @@ private:
     Q_DISABLE_COPY_MOVE(CharacterPool)
 };
 
+qsizetype longestPassphrase(const GeneratorSettings& settings)
+{
+    qsizetype parts = 0;
+    qsizetype length = 0;
+    const bool isTooLong
+        = qAddOverflow<qsizetype>(settings.wordCount, settings.appendNumber ? 1 : 0, &parts)
+          || qMulOverflow(parts, longestWord + settings.separator.size(), &length);
+    precondition(!isTooLong);
+    return length;
+}
+
+QLatin1Char digit(std::int64_t value)
+{
+    return QLatin1Char(static_cast<char>('0' + value));
+}
+
 } // namespace
 
 QString SecureGenerator::generate(const GeneratorSettings& settings) const
@@ -119,7 +145,9 @@ QString SecureGenerator::password(const GeneratorSettings& settings) const
         throw GeneratorError::lengthTooShort(std::ssize(groups));
 
     QString result;
-    result.reserve(std::max<qsizetype>(settings.length, 0));
+    auto wiping = qScopeGuard([&result] { SecretText::wipe(result); });
+    // A text that outgrew its memory would leave a part of the secret there.
+    result.reserve(std::max<qsizetype>(settings.length, std::ssize(groups)));
     if (settings.requireEveryGroup) {
         for (const auto group : groups)
             result += QLatin1Char(pick(group));
@@ -129,6 +157,7 @@ QString SecureGenerator::password(const GeneratorSettings& settings) const
 
     // The guaranteed characters stand in front until here.
     secureShuffle(result);
+    wiping.dismiss();
     return result;
 }
 
@@ -137,6 +166,8 @@ QString SecureGenerator::passphrase(const GeneratorSettings& settings) const
     precondition(settings.wordCount >= 0);
 
     QString result;
+    auto wiping = qScopeGuard([&result] { SecretText::wipe(result); });
+    result.reserve(longestPassphrase(settings));
     for (std::int64_t i = 0; i < settings.wordCount; ++i) {
         if (i > 0)
             result += settings.separator;
@@ -146,8 +177,14 @@ QString SecureGenerator::passphrase(const GeneratorSettings& settings) const
         if (settings.capitalizeWords)
             result[start] = result[start].toUpper();
     }
-    if (settings.appendNumber)
-        result += settings.separator + QString::number(secureIndex(100));
+    if (settings.appendNumber) {
+        const std::int64_t number = secureIndex(100);
+        result += settings.separator;
+        if (number >= 10)
+            result += digit(number / 10);
+        result += digit(number % 10);
+    }
+    wiping.dismiss();
     return result;
 }
 
@@ -173,7 +210,9 @@ std::int64_t SecureGenerator::secureIndex(std::int64_t upperBound) const
         if (status != 0)
             throw GeneratorError::randomFailure(status);
     } while (value >= limit);
-    return static_cast<std::int64_t>(value % bound);
+    const auto index = static_cast<std::int64_t>(value % bound);
+    Platform::ProcessMemory::wipe(std::as_writable_bytes(std::span(&value, 1)));
+    return index;
 }
 
 double SecureGenerator::estimatedEntropy(const QString& text,

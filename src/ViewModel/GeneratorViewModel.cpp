@@ -6,11 +6,13 @@
 #include "Model/GeneratorError.h"
 #include "Platform/Clipboard.h"
 #include "Platform/ContinuousClock.h"
+#include "Services/SecretText.h"
 
 #include <QPointer>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -32,6 +34,14 @@ GeneratorViewModel::GeneratorViewModel(QObject* parent)
 {
     m_settings.length = startingLength;
     generate();
+}
+
+GeneratorViewModel::~GeneratorViewModel()
+{
+    release(std::exchange(m_generated, {}));
+    while (!m_history.isEmpty())
+        release(m_history.takeLast());
+    wipeReleased();
 }
 
 void GeneratorViewModel::setSettings(const GeneratorSettings& settings)
@@ -61,6 +71,7 @@ void GeneratorViewModel::setErrorPresented(bool presented)
 
 void GeneratorViewModel::generate()
 {
+    wipeReleased();
     try {
         const QString value = m_generator.generate(m_settings);
         setGenerated(value);
@@ -73,6 +84,7 @@ void GeneratorViewModel::generate()
 
 void GeneratorViewModel::useFromHistory(const QString& value)
 {
+    wipeReleased();
     setGenerated(value);
 }
 
@@ -96,7 +108,7 @@ void GeneratorViewModel::copyToClipboard()
 
 void GeneratorViewModel::setGenerated(const QString& value)
 {
-    m_generated = value;
+    release(std::exchange(m_generated, value));
     Q_EMIT generatedChanged();
     m_entropy = m_generator.estimatedEntropy(value, m_settings);
     Q_EMIT entropyChanged();
@@ -119,6 +131,23 @@ void GeneratorViewModel::remember(const QString& value)
     if (!m_history.isEmpty() && m_history.constFirst() == value)
         return;
     m_history.prepend(value);
-    m_history.resize(std::min(m_history.size(), historyLimit));
+    if (m_history.size() > historyLimit)
+        release(m_history.takeLast());
     Q_EMIT historyChanged();
+}
+
+void GeneratorViewModel::release(const QString& secret)
+{
+    const bool isShared = std::ranges::any_of(m_released, [&secret](const QString& other) {
+        return other.constData() == secret.constData();
+    });
+    if (!secret.isEmpty() && !isShared)
+        m_released.append(secret);
+}
+
+void GeneratorViewModel::wipeReleased()
+{
+    for (QString& secret : m_released)
+        SecretText::wipe(secret);
+    m_released.removeAll(QString()); // what was wiped
 }

@@ -42,6 +42,7 @@ class GeneratorViewModel : public QObject
 public:
     /// Starts with a length of 10 and a first secret.
     explicit GeneratorViewModel(QObject* parent = nullptr);
+    ~GeneratorViewModel() override;
 
     /// What the next `generate` uses.
     [[nodiscard]] const GeneratorSettings& settings() const { return m_settings; }
@@ -106,14 +107,19 @@ private:
     void setErrorMessage(const std::optional<QString>& message);
     void setCopied(bool copied);
     void remember(const QString& value);
+    void release(const QString& secret);
+    void wipeReleased();
 
     GeneratorSettings m_settings;
     QString m_generated;
     double m_entropy = 0;
     QStringList m_history;
+    /// What was let go of here, and is wiped once nobody else holds it any more.
+    QStringList m_released;
     std::optional<QString> m_errorMessage;
     bool m_copied = false;
     /// The clipboard's change counter right after this object wrote to it last.
     std::int64_t m_clipboardRevision = 0;
     SecureGenerator m_generator;
+    Q_DISABLE_COPY_MOVE(GeneratorViewModel)
 };

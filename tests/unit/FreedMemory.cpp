@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#include "FreedMemory.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstring>
+
+#include <malloc.h>
+
+namespace {
+
+// No memory may be taken or given back while a block is looked at.
+std::array<char16_t, 64> wanted{};
+std::size_t wantedSize = 0;
+int count = 0;
+
+bool holdsWanted(const void* block, std::size_t size)
+{
+    return wantedSize > 0 && block && ::memmem(block, size, wanted.data(), wantedSize);
+}
+
+} // namespace
+
+// NOLINTBEGIN(*-reserved-identifier,cert-*,readability-*-naming,readability-inconsistent-*): the C
+// library's and the sanitizer's names
+#ifdef __SANITIZE_ADDRESS__
+
+extern "C" std::size_t __sanitizer_get_allocated_size(const volatile void* block);
+
+extern "C" void __sanitizer_free_hook(const volatile void* block);
+void __sanitizer_free_hook(const volatile void* block)
+{
+    if (wantedSize > 0 && block) {
+        const std::size_t size = __sanitizer_get_allocated_size(block);
+        if (holdsWanted(const_cast<const void*>(block), size))
+            ++count;
+    }
+}
+
+#else
+
+extern "C" void __libc_free(void* block);
+extern "C" void* __libc_realloc(void* block, std::size_t size);
+
+void free(void* block)
+{
+    if (holdsWanted(block, ::malloc_usable_size(block)))
+        ++count;
+    __libc_free(block);
+}
+
+void* realloc(void* block, std::size_t size)
+{
+    const bool held = holdsWanted(block, ::malloc_usable_size(block));
+    void* const result = __libc_realloc(block, size);
+    if (held && result != block)
+        ++count;
+    return result;
+}
+
+#endif
+// NOLINTEND(*-reserved-identifier,cert-*,readability-*-naming,readability-inconsistent-*)
+
+FreedMemory::FreedMemory(QStringView text)
+{
+    Q_ASSERT(wantedSize == 0 && !text.isEmpty());
+    std::copy(text.utf16(), text.utf16() + std::min<qsizetype>(text.size(), 64), wanted.begin());
+    count = 0;
+    wantedSize = static_cast<std::size_t>(text.size()) * sizeof(char16_t);
+}
+
+FreedMemory::~FreedMemory()
+{
+    wantedSize = 0;
+}
+
+int FreedMemory::finds() const
+{
+    return count;
+}

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+// What is left of secrets in memory that has been given back.
+
+#include "FreedMemory.h"
+#include "Model/GeneratorError.h"
+#include "ScriptedRandom.h"
+#include "Services/SecretText.h"
+#include "Services/SecureGenerator.h"
+#include "ViewModel/GeneratorViewModel.h"
+
+#include <QString>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include <pthread.h>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+std::vector<std::uint64_t> zeros(std::size_t count)
+{
+    return std::vector<std::uint64_t>(count);
+}
+
+QString repeated(char16_t character, qsizetype count)
+{
+    return {count, character};
+}
+
+TEST(FreedMemoryTest, FindsWhatWasNotWiped)
+{
+    const QString needle = repeated(u'q', 10);
+    const FreedMemory memory(needle);
+    {
+        const QString copy = QString(needle.constData(), needle.size());
+    }
+    EXPECT_EQ(memory.finds(), 1);
+}
+
+TEST(SecretTextTest, IsNotInTheMemoryThatItGaveBack)
+{
+    const QString needle = repeated(u'q', 10);
+    const FreedMemory memory(needle);
+    QString copy = QString(needle.constData(), needle.size());
+    SecretText::wipe(copy);
+    EXPECT_TRUE(copy.isEmpty());
+    copy = QString();
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+TEST(SecretTextTest, IsLeftToWhoeverSharesIt)
+{
+    QString text = repeated(u'q', 10);
+    const QString shared = text;
+    SecretText::wipe(text);
+    EXPECT_EQ(shared, repeated(u'q', 10));
+    EXPECT_EQ(text, shared);
+}
+
+TEST(SecretTextTest, MayBeEmpty)
+{
+    QString none;
+    SecretText::wipe(none);
+    QString empty = u""_s;
+    SecretText::wipe(empty);
+    EXPECT_TRUE(none.isEmpty());
+    EXPECT_TRUE(empty.isEmpty());
+}
+
+class SecretRemainsTest : public testing::Test
+{
+protected:
+    const SecureGenerator generator{};
+    const GeneratorSettings letters{
+        .length = 64, .uppercase = false, .numbers = false, .symbols = false};
+    const GeneratorSettings words{
+        .mode = GeneratorMode::passphrase, .wordCount = 8, .separator = u"+++"_s};
+};
+
+TEST_F(SecretRemainsTest, APasswordLeavesNoPartBehind)
+{
+    const QString part = repeated(u'a', 4);
+    const ScriptedRandom random(zeros(64 + 63));
+    const FreedMemory memory(part);
+    QString secret = generator.generate(letters);
+    EXPECT_EQ(secret.count(u'a'), 64);
+    SecretText::wipe(secret);
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+TEST_F(SecretRemainsTest, APasswordThatFailsLeavesNoPartBehind)
+{
+    const QString part = repeated(u'a', 4);
+    const ScriptedRandom random(zeros(50), FailsWith{5});
+    const FreedMemory memory(part);
+    EXPECT_THROW(static_cast<void>(generator.generate(letters)), GeneratorError);
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+TEST_F(SecretRemainsTest, APassphraseLeavesNoPartBehind)
+{
+    const ScriptedRandom random(zeros(9));
+    QString secret;
+    const FreedMemory memory(u"abend+++");
+    secret = generator.generate(words);
+    EXPECT_TRUE(secret.endsWith(u"abend+++0"_s));
+    SecretText::wipe(secret);
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+TEST_F(SecretRemainsTest, APassphraseThatFailsLeavesNoPartBehind)
+{
+    const ScriptedRandom random(zeros(8), FailsWith{5});
+    const FreedMemory memory(u"abend+++");
+    EXPECT_THROW(static_cast<void>(generator.generate(words)), GeneratorError);
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+#ifndef __SANITIZE_ADDRESS__ // which keeps local variables elsewhere
+
+/// The memory of the stack on which `task` ran.
+std::vector<char> stackOf(std::function<void()> task)
+{
+    constexpr std::size_t size = 1 << 20;
+    const auto run = [](void* argument) -> void* {
+        (*static_cast<std::function<void()>*>(argument))();
+        return nullptr;
+    };
+
+    std::vector<char> memory(size);
+    pthread_attr_t attributes{};
+    pthread_t thread{};
+    pthread_attr_init(&attributes);
+    EXPECT_EQ(pthread_attr_setstack(&attributes, memory.data(), memory.size()), 0);
+    EXPECT_EQ(pthread_create(&thread, &attributes, run, &task), 0);
+    EXPECT_EQ(pthread_join(thread, nullptr), 0);
+    pthread_attr_destroy(&attributes);
+    return memory;
+}
+
+bool holds(const std::vector<char>& memory, std::string_view bytes)
+{
+    return std::string_view(memory.data(), memory.size()).find(bytes) != std::string_view::npos;
+}
+
+TEST_F(SecretRemainsTest, ThePoolIsNotLeftOnTheStack)
+{
+    const std::string_view part = SecureGenerator::lowercase.substr(2, 6);
+    const std::vector<char> withPart = stackOf([part] {
+        std::array<char, 26> copy{};
+        std::ranges::copy(SecureGenerator::lowercase, copy.begin());
+        EXPECT_NE(std::string_view(copy.data(), copy.size()).find(part), std::string_view::npos);
+    });
+    EXPECT_TRUE(holds(withPart, part));
+
+    const ScriptedRandom random(zeros(64 + 63));
+    QString secret;
+    const std::vector<char> after = stackOf([&] { secret = generator.generate(letters); });
+    EXPECT_EQ(secret, repeated(u'a', 64));
+    EXPECT_FALSE(holds(after, part));
+}
+
+#endif
+
+class ReleasedSecretsTest : public testing::Test
+{
+protected:
+    static GeneratorSettings tenLetters()
+    {
+        return {.length = 10, .uppercase = false, .numbers = false, .symbols = false};
+    }
+
+    static void generate(GeneratorViewModel& model, std::uint64_t letter)
+    {
+        const ScriptedRandom random([letter](std::uint64_t& value) {
+            value = letter;
+            return 0;
+        });
+        model.generate();
+    }
+};
+
+TEST_F(ReleasedSecretsTest, AreWipedWhenTheHistoryLetsThemGo)
+{
+    const QString secret = repeated(u'a', 10);
+    GeneratorViewModel model;
+    model.setSettings(tenLetters());
+    const FreedMemory memory(secret);
+    generate(model, 0);
+    ASSERT_EQ(model.generated(), secret);
+    for (std::uint64_t letter = 1; letter <= 6; ++letter)
+        generate(model, letter);
+    ASSERT_FALSE(model.history().contains(secret));
+    generate(model, 7);
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+TEST_F(ReleasedSecretsTest, AreWipedOnceNobodyElseHoldsThem)
+{
+    const QString secret = repeated(u'a', 10);
+    GeneratorViewModel model;
+    model.setSettings(tenLetters());
+    const FreedMemory memory(secret);
+    generate(model, 0);
+    QString view = model.generated();
+    for (std::uint64_t letter = 1; letter <= 8; ++letter)
+        generate(model, letter);
+    EXPECT_EQ(view, secret);
+    view = QString();
+    EXPECT_EQ(memory.finds(), 0);
+    generate(model, 9);
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+TEST_F(ReleasedSecretsTest, AreWipedAtTheEnd)
+{
+    const QString secret = repeated(u'a', 10);
+    const FreedMemory memory(secret);
+    {
+        GeneratorViewModel model;
+        model.setSettings(tenLetters());
+        generate(model, 0);
+        generate(model, 1);
+        model.useFromHistory(model.history().constLast());
+        generate(model, 2);
+        ASSERT_TRUE(model.history().contains(secret));
+    }
+    EXPECT_EQ(memory.finds(), 0);
+}
+
+} // namespace
