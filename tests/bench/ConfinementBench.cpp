@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+// What a start of the program pays for its confinement. It cannot be taken back, so each round runs
+// in a process of its own; what starting that one costs is not counted.
+
+#include "Platform/Confinement.h"
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <chrono>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+double secondsFor(void (*confine)())
+{
+    const auto start = std::chrono::steady_clock::now();
+    confine();
+    return Seconds(std::chrono::steady_clock::now() - start).count();
+}
+
+void inFreshProcess(benchmark::State& state, void (*confine)())
+{
+    for ([[maybe_unused]] const auto round : state) {
+        std::array<int, 2> ends{};
+        if (::pipe(ends.data()) != 0) {
+            state.SkipWithError("no pipe");
+            return;
+        }
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const double seconds = secondsFor(confine);
+            ::_exit(::write(ends[1], &seconds, sizeof(seconds)) == sizeof(seconds) ? 0 : 1);
+        }
+        double seconds = 0;
+        ::close(ends[1]);
+        const bool told
+            = child > 0 && ::read(ends[0], &seconds, sizeof(seconds)) == sizeof(seconds);
+        ::close(ends[0]);
+        ::waitpid(child, nullptr, 0);
+        if (!told) {
+            state.SkipWithError("no answer");
+            return;
+        }
+        state.SetIterationTime(seconds);
+    }
+}
+
+BENCHMARK_CAPTURE(inFreshProcess, files, Platform::Confinement::closeFiles)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(inFreshProcess, system, Platform::Confinement::closeSystem)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
