@@ -44,6 +44,7 @@ packages[e2e]='
     grim
     openbox
     python3-pyatspi
+    strace
     sway
     wl-clipboard
     wmctrl

@@ -19,15 +19,15 @@ PROGRAM = os.environ["MORVANE_PROGRAM"]
 ARTIFACTS = pathlib.Path(os.environ["MORVANE_ARTIFACTS"])
 
 
-def until(condition, what):
+def until(condition, what, deadline=DEADLINE):
     """Returns the first true result of `condition`, or fails after the deadline naming `what`."""
-    end = time.monotonic() + DEADLINE
+    end = time.monotonic() + deadline
     while True:
         result = condition()
         if result:
             return result
         if time.monotonic() > end:
-            raise AssertionError(f"nothing came of this within {DEADLINE:.0f} s: {what}")
+            raise AssertionError(f"nothing came of this within {deadline:.0f} s: {what}")
         time.sleep(0.02)
 
 
@@ -192,30 +192,42 @@ class Program:
         names = [a.name for a in everything(self.accessible())]
         return names[names.index("Diese Sitzung") + 1 : names.index("Menü")]
 
-    def middle(self, name, role=None):
-        """The middle of the control of this name, as a point of the screen."""
+    def activate(self):
+        """Returns once the window has the keyboard, which the window manager gives it."""
+        window = self.window()
+        until(lambda: output("xdotool", "getactivewindow").strip() == window, "an active window")
+
+    def place(self, accessible):
+        """The middle of an accessible object, as a point of the screen."""
         import pyatspi
 
+        box = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return box.x + box.width // 2, box.y + box.height // 2
+
+    def middle(self, name, role=None):
+        """The place of the control of this name once it has come to rest."""
         control = self.find(
             lambda a: a.name == name
             and (a.getRoleName() == role if role else a.getRoleName() != "label"),
             f"the control {name}",
         )
-        boxes = []
+        places = []
 
         def at_rest():
-            box = control.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-            boxes.append((box.x, box.y, box.width, box.height))
-            return len(boxes) > 2 and boxes[-1] == boxes[-2] == boxes[-3]
+            places.append(self.place(control))
+            return len(places) > 2 and places[-1] == places[-2] == places[-3]
 
         until(at_rest, f"the control {name} at rest")
-        x, y, width, height = boxes[-1]
-        return x + width // 2, y + height // 2
+        return places[-1]
 
     def click(self, name, role=None):
         """Clicks the control of this name with the real pointer."""
         point(*self.middle(name, role))
         subprocess.run(["xdotool", "click", "1"], check=True)
+
+    def key(self, *chords):
+        """Presses keys on the real keyboard, one after the other."""
+        key(*chords)
 
     def press(self, name):
         """Presses the button, or throws the switch, of this name through its accessible action."""

@@ -214,6 +214,12 @@ class WaylandProgram(Program):
             node["rect"]["y"] + node["window_rect"]["y"] + extents.y + extents.height // 2,
         )
 
+    def click(self, name, role=None):
+        self.desktop.click(*self.middle(name, role))
+
+    def key(self, *chords):
+        self.desktop.key(*chords)
+
 
 class VirtualInput:
     """A pointer and a keyboard on the compositor's seat, which has none without a screen.

@@ -1,0 +1,25 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""The same session as on X11 on Wayland, in a process of its own: AT-SPI stays with one bus."""
+
+import os
+import unittest
+
+import test_privacy
+from wayland import WaylandDesktop, WaylandProgram
+
+
+class WaylandSession(test_privacy.Session):
+    clipboard_command = ("wl-paste", "--no-newline")
+
+
+class PrivacyOnWayland(test_privacy.Privacy):
+    desktop_type, program_type, session_type = WaylandDesktop, WaylandProgram, WaylandSession
+
+    def peers(self):
+        return {os.environ["WAYLAND_DISPLAY"], *self.buses()}
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
