@@ -74,25 +74,28 @@ Rectangle {
             }
         }
 
-        // Of each at most one, so that the controls of the other mode are not even built.
-        Repeater {
-            model: root.model.settings.mode === 0 ? 1 : 0 // qmllint disable type
-
-            PasswordSettings {
-                spacing: controls.spacing
-                viewModel: root.model
-                width: controls.width
-            }
+        PasswordSettings {
+            spacing: controls.spacing
+            viewModel: root.model
+            visible: root.model.settings.mode === 0 // qmllint disable type
+            width: controls.width
         }
 
+        // Built when it is first needed, and kept from then on: of a switch that is built while a
+        // screen reader listens, Qt never gives back everything.
         Repeater {
-            model: root.model.settings.mode === 1 ? 1 : 0 // qmllint disable type
+            readonly property bool needed: root.model.settings.mode === 1 // qmllint disable type
+
+            model: 0
 
             PhraseSettings {
                 spacing: controls.spacing
                 viewModel: root.model
+                visible: root.model.settings.mode === 1 // qmllint disable type
                 width: controls.width
             }
+
+            onNeededChanged: model = 1
         }
     }
 
