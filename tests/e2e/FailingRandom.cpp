@@ -29,6 +29,7 @@ struct Control
 Control* sharedControl()
 {
     static Control alone{.draws = 0, .fails = 1};
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): before there is a second thread
     const char* const name = std::getenv("MORVANE_RANDOM_CONTROL");
     if (!name)
         return &alone;
