@@ -42,6 +42,7 @@ packages[e2e]='
     at-spi2-core
     dbus
     grim
+    mesa-vulkan-drivers
     openbox
     python3-pyatspi
     strace

@@ -95,6 +95,12 @@ def read(log):
     return calls
 
 
+def read_files(calls):
+    """The paths of all files that were opened."""
+    results = [OPENED.match(call.result) for call in calls if call.name in OPENING]
+    return {opened["path"] for opened in results if opened}
+
+
 def offences(calls, program, peers):
     """Those of `calls` with which more than reading is attempted, or anybody but `peers` spoken to.
 

@@ -16,6 +16,9 @@ class WaylandSession(test_privacy.Session):
 
 class PrivacyOnWayland(test_privacy.Privacy):
     desktop_type, program_type, session_type = WaylandDesktop, WaylandProgram, WaylandSession
+    # Of the drivers that do without a graphics card, the one that keeps a cache of shaders.
+    variables = {"GALLIUM_DRIVER": "zink", "LIBGL_ALWAYS_SOFTWARE": "1"}
+    libraries = {"libQt6WaylandClient", "libvulkan_lvp"}
 
     def peers(self):
         return {os.environ["WAYLAND_DISPLAY"], *self.buses()}
