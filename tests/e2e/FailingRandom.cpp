@@ -42,16 +42,22 @@ Control* sharedControl()
     return static_cast<Control*>(page);
 }
 
+Control& control()
+{
+    static Control* const shared = sharedControl();
+    return *shared;
+}
+
 // Before the program can keep itself from opening files.
-Control* const control = sharedControl();
+[[maybe_unused]] const Control& early = control();
 
 } // namespace
 
 extern "C" ssize_t getrandom(void* buffer, std::size_t size, unsigned int flags)
 {
     if (size == 8) {
-        ++control->draws;
-        if (control->fails != 0) {
+        ++control().draws;
+        if (control().fails != 0) {
             errno = ENOSYS;
             return -1;
         }
