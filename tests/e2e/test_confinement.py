@@ -7,10 +7,13 @@ import collections
 import errno
 import os
 import pathlib
+import pwd
 import re
+import shutil
+import tempfile
 import unittest
 
-from desktop import Desktop, Program, key, until
+from desktop import PROGRAM, Desktop, Program, key, until
 
 INTRUDER = os.environ["MORVANE_INTRUDER"]
 OLD_KERNEL = os.environ["MORVANE_OLD_KERNEL"]
@@ -22,6 +25,8 @@ FILES = {"create", "write", "append", "rename", "link", "symlink", "mkdir", "rmd
 SYSTEM = {"exec", "ptrace", "read-memory", "rings", "mark"}
 SOCKETS = {"internet", "internet-6", "internet-disguised"}
 OPEN = {"unix", "netlink", "read", "null", "memory-file"}
+
+FONT = pathlib.Path("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")
 
 
 class Confinement(unittest.TestCase):
@@ -89,6 +94,36 @@ class Confinement(unittest.TestCase):
         errors, _ = self.intrude(under=[OLD_KERNEL, "seccomp", "--"])
         self.assert_met({"EACCES", "EXDEV"}, FILES | {"exec"}, errors)
         self.assert_met({""}, {"ptrace", "internet"} | OPEN, errors)
+
+    def stored_by_libraries(self, program):
+        """What is stored where a font has not been seen before, and no runtime folder is there."""
+        with tempfile.TemporaryDirectory(prefix="morvane-e2e-") as name:
+            folder = pathlib.Path(name)
+            for place in ("fonts", "temporary"):
+                (folder / place).mkdir()
+            shutil.copy(FONT, folder / "fonts")
+            configuration = folder / "fonts.conf"
+            configuration.write_text(
+                f"<fontconfig><dir>{folder}/fonts</dir><cachedir>{folder}/cache</cachedir></fontconfig>",
+                encoding="ascii",
+            )
+            before = set(folder.rglob("*"))
+            variables = {
+                "FONTCONFIG_FILE": str(configuration),
+                "TMPDIR": str(folder / "temporary"),
+                "XDG_RUNTIME_DIR": "",
+            }
+            with Program(self.desktop, program=program, variables=variables) as running:
+                running.window()
+                until(running.value, "a value")
+                key("ctrl+q")
+                self.assertEqual(running.ended()[0], 0)
+            return {str(path.relative_to(folder)) for path in set(folder.rglob("*")) - before}
+
+    def test_libraries_store_nothing_either(self):
+        expected = {"cache", f"temporary/runtime-{pwd.getpwuid(os.geteuid()).pw_name}"}
+        self.assertLessEqual(expected, self.stored_by_libraries(UNCONFINED))
+        self.assertEqual(self.stored_by_libraries(PROGRAM), set())
 
 
 if __name__ == "__main__":
