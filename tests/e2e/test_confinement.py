@@ -104,7 +104,8 @@ class Confinement(unittest.TestCase):
             shutil.copy(FONT, folder / "fonts")
             configuration = folder / "fonts.conf"
             configuration.write_text(
-                f"<fontconfig><dir>{folder}/fonts</dir><cachedir>{folder}/cache</cachedir></fontconfig>",
+                f"<fontconfig><dir>{folder}/fonts</dir>"
+                f"<cachedir>{folder}/cache</cachedir></fontconfig>",
                 encoding="ascii",
             )
             before = set(folder.rglob("*"))
