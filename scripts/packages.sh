@@ -20,6 +20,7 @@ packages[build]='
 
 # The xcb platform plugin comes with Qt's libraries, the Wayland one does not.
 packages[run]='
+    fontconfig
     fonts-dejavu-core
     qml6-module-qtqml
     qml6-module-qtqml-models

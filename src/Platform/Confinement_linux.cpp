@@ -76,15 +76,12 @@ struct OpenPath
     std::uint64_t access;
 };
 
-constexpr std::array<OpenPath, 3> openPaths{{
-    // Wayland's and Mesa's libraries look for a graphics processor when they are loaded, and
-    // complain without end if it is there and refuses them.
+constexpr std::array<OpenPath, 2> openPaths{{
+    // On Wayland, Qt starts a graphics driver whether it draws with it or not, and Mesa's complain
+    // on standard error where they may not open their device.
     {"/dev/dri", LANDLOCK_ACCESS_FS_WRITE_FILE},
     // Where libraries leave what nobody wants.
     {"/dev/null", LANDLOCK_ACCESS_FS_WRITE_FILE},
-    // Memory shared with the X server or the compositor, where they offer no other kind.
-    {"/dev/shm", LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_MAKE_REG
-                     | LANDLOCK_ACCESS_FS_REMOVE_FILE | truncating},
 }};
 
 // NOLINTBEGIN(cppcoreguidelines-pro-type-vararg): the C library has no functions for these yet
