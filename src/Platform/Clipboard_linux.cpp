@@ -80,8 +80,15 @@ public:
 
     void clear()
     {
-        replaceContents(nullptr);
-        m_clipboard->clear();
+        if (m_contents && !isX11() && !QGuiApplication::focusWindow()) {
+            // Without the keyboard, compositors refuse a change, and some put back their own copy
+            // when what was offered is gone. So it stays, with nothing left of it.
+            m_contents->clear();
+            m_hollow = m_contents;
+            replaceContents(nullptr);
+        } else {
+            empty();
+        }
         watchForReturn();
     }
 
@@ -102,11 +109,24 @@ protected:
     }
 
 private:
-    void replaceContents(const QMimeData* contents)
+    void replaceContents(QMimeData* contents)
     {
         m_contents = contents;
         m_holdsOurs = contents != nullptr;
         ++m_changeCount;
+    }
+
+    void empty()
+    {
+        replaceContents(nullptr);
+        if (isX11()) {
+            // Left to nobody, it would be filled again by managers that keep a copy.
+            m_clipboard->setMimeData(std::make_unique<QMimeData>().release());
+        } else {
+            // What a compositor puts back is the last text that there was.
+            m_clipboard->setText(QStringLiteral(""));
+            m_clipboard->clear();
+        }
     }
 
     void noticeLoss()
@@ -131,19 +151,27 @@ private:
     {
         if (m_written.isEmpty())
             return;
-        if (m_clipboard->ownsClipboard() || fingerprint(m_clipboard->text()) != m_written) {
+        if (isStillThere())
+            empty();
+        else
             stopWatching();
-            return;
-        }
-        replaceContents(nullptr);
-        m_clipboard->clear();
+    }
+
+    /// Whether it was hollowed out only, or brought back.
+    [[nodiscard]] bool isStillThere() const
+    {
+        if (m_clipboard->ownsClipboard())
+            return m_hollow && m_clipboard->mimeData() == m_hollow;
+        return fingerprint(m_clipboard->text()) == m_written;
     }
 
     QClipboard* const m_clipboard = QGuiApplication::clipboard();
     std::int64_t m_changeCount = 0;
     /// What the clipboard holds of ours. Compared, never looked into.
-    QPointer<const QMimeData> m_contents;
+    QPointer<QMimeData> m_contents;
     bool m_holdsOurs = false;
+    /// What it offers of ours without anything in it.
+    QPointer<const QMimeData> m_hollow;
     /// Tells what was written last from all else, without keeping it.
     QByteArray m_written;
     QTimer m_soon;
