@@ -41,6 +41,7 @@ packages[display]='
 # A desktop without a desk, and the tools that look at its windows.
 packages[e2e]='
     at-spi2-core
+    copyq
     dbus
     grim
     mesa-vulkan-drivers
@@ -52,6 +53,7 @@ packages[e2e]='
     wmctrl
     x11-utils
     xclip
+    xfce4-clipman
 '
 
 packages[bench]='

@@ -1,0 +1,221 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""The real clipboard with managers that collect what is on it, in their real homes.
+
+Each has a desktop of its own, and they run side by side.
+"""
+
+import concurrent.futures
+import itertools
+import subprocess
+import time
+import unittest
+
+from desktop import Desktop, Program, until
+from test_clipboard import GRACE, Session, X11Session, assert_in_time, cleared
+
+HANDOVER = 5.0
+"""Seconds for which Qt has a clipboard manager fetch the contents of a program that ends."""
+
+HEED_MARKER = r"""[Commands]
+1\Automatic=true
+1\Command=copyq ignore
+1\Input=x-kde-passwordManagerHint
+1\Name=Ignore secrets
+1\Remove=true
+size=1
+"""
+"""A command of CopyQ's user. It heeds the marker by itself from version 8 on."""
+
+
+class ManagedSession(X11Session):
+    """A desktop with the program and a clipboard manager."""
+
+    command = ()
+    unmarked = None
+
+    def __init__(self):
+        Session.__init__(self, Desktop(), Program)
+        self.environment.pop("XDG_CACHE_HOME")
+        self.configure()
+        self.manager = subprocess.Popen(
+            self.command,
+            env=self.environment,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
+
+    def configure(self):
+        """What is to be in the home before the manager starts."""
+
+    def start(self):
+        """Returns once the manager takes what is copied and the window has the keyboard."""
+
+        numbers = itertools.count()
+
+        def taken():
+            # What is there when the manager starts is nothing new to it, and stays so.
+            self.unmarked = f"ohne Kennzeichen {next(numbers)}"
+            self.write(self.unmarked)
+            time.sleep(0.5)
+            return self.keeps(self.unmarked)
+
+        until(taken, "the manager's copy of an unmarked text")
+        super().start()
+
+    def keeps(self, text):
+        """Whether the manager has `text` in its history."""
+        raise NotImplementedError
+
+    def on_disk(self, text):
+        """The files that have `text` in them, in any encoding that is known of a manager."""
+        forms = [text.encode(encoding) for encoding in ("utf-8", "utf-16-le", "utf-16-be")]
+        return [
+            path
+            for path in self.desktop.home.rglob("*")
+            if path.is_file() and any(form in path.read_bytes() for form in forms)
+        ]
+
+    def primary(self):
+        return self.run("xclip", "-o", "-selection", "primary")
+
+    def quit(self):
+        """Quits the program by its keys; returns the seconds that it takes to end."""
+        start = time.monotonic()
+        self.run("xdotool", "key", "ctrl+q")
+        status, errors = self.program.ended()
+        if status or errors:
+            raise AssertionError(f"ended with {status}: {errors}")
+        return time.monotonic() - start
+
+    def end_manager(self):
+        self.manager.terminate()
+        self.manager.wait()
+
+    def close(self):
+        try:
+            if self.manager.poll() is None:
+                self.end_manager()
+        finally:
+            super().close()
+
+
+class Clipman(ManagedSession):
+    """Takes every text whatever it is marked as, and never lets the clipboard be without one."""
+
+    command = ("xfce4-clipman",)
+
+    def keeps(self, text):
+        # Its history is this file, written at every change.
+        return bool(self.on_disk(text))
+
+
+class CopyQ(ManagedSession):
+    command = ("copyq",)
+
+    def configure(self):
+        folder = self.desktop.home / ".config" / "copyq"
+        folder.mkdir(parents=True)
+        (folder / "copyq-commands.ini").write_text(HEED_MARKER, encoding="ascii")
+
+    def keeps(self, text):
+        newest = map(str, range(10))
+        return text in self.run("copyq", "read", *newest).splitlines()
+
+    def end_manager(self):
+        self.run("copyq", "exit")  # which writes the history
+        self.manager.wait()
+
+
+def text_without_owner_is_brought_back(session):
+    session.copy()
+    secret = session.text()
+    session.program.process.terminate()
+    session.program.process.wait()
+    until(lambda: session.text() == secret, "the text of a program that is gone")
+
+
+def cleared_secret_is_not_brought_back(session):
+    start = session.copy()
+    if session.primary():
+        raise AssertionError("selected as well")
+    assert_in_time(cleared(session) - start)
+    assert_stays_empty(session)
+    session.quit()
+    assert_stays_empty(session)
+
+
+def secret_marked_as_one_is_not_kept(session):
+    start = session.copy()
+    secret = session.text()
+    assert_in_time(cleared(session) - start)
+    assert_stays_empty(session)
+    session.write("danach")
+    until(lambda: session.keeps("danach"), "what was copied next")
+    if session.keeps(secret):
+        raise AssertionError("kept in the history")
+    session.end_manager()
+    if not session.on_disk(session.unmarked):
+        raise AssertionError("the history is not where it was looked for")
+    if session.on_disk(secret):
+        raise AssertionError(f"written to {session.on_disk(secret)}")
+
+
+def quitting_waits_for_no_manager(session):
+    session.copy()
+    elapsed = session.quit()
+    if elapsed >= HANDOVER / 2:
+        raise AssertionError(f"took {elapsed:.2f} s")
+
+
+def assert_stays_empty(session):
+    end = time.monotonic() + GRACE
+    while time.monotonic() < end:
+        if session.text():
+            raise AssertionError("back on the clipboard")
+        time.sleep(0.1)
+
+
+STORIES = (
+    (Clipman, text_without_owner_is_brought_back),
+    (Clipman, cleared_secret_is_not_brought_back),
+    (Clipman, quitting_waits_for_no_manager),
+    (CopyQ, secret_marked_as_one_is_not_kept),
+)
+
+
+def tell(story, session):
+    session.start()
+    story(session)
+
+
+class Managers(unittest.TestCase):
+    """Every story; `setUpClass` starts them all."""
+
+    @classmethod
+    def setUpClass(cls):
+        workers = concurrent.futures.ThreadPoolExecutor(len(STORIES))
+        cls.addClassCleanup(workers.shutdown)
+        cls.told = {}
+        # One after the other, for a desktop becomes this process's own when it starts.
+        for kind, story in STORIES:
+            session = kind()
+            cls.addClassCleanup(session.close)
+            cls.told[kind, story] = workers.submit(tell, story, session)
+
+
+def add_test(kind, story):
+    def test(self):
+        self.told[kind, story].result()
+
+    setattr(Managers, f"test_{kind.__name__.lower()}_{story.__name__}", test)
+
+
+for kind, story in STORIES:
+    add_test(kind, story)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
