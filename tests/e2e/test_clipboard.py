@@ -181,7 +181,10 @@ class WaylandSession(Session):
     def elsewhere(self):
         """Takes the window out of sight."""
         self.command("workspace", "2")
-        yield
+        try:
+            yield
+        finally:
+            self.command("workspace", "1")
 
 
 def cleared(session):
@@ -244,6 +247,9 @@ def cleared_while_another_window_is_used(session):
     start = session.copy()
     with session.elsewhere():
         assert_in_time(cleared(session) - start)
+    until(lambda: not session.formats(), "nothing on offer once the window is back")
+    if session.text():
+        raise AssertionError("back on the clipboard")
 
 
 def text_copied_in_another_window_stays(session):

@@ -16,6 +16,7 @@ namespace {
 
 namespace Clipboard = Platform::Clipboard;
 using testing::Gt;
+using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 /// On a platform without a clipboard of the system's: Qt keeps one for the program alone.
@@ -69,6 +70,15 @@ TEST_F(SystemClipboardTest, CountsAnotherWriterOfTheSameText)
     const std::int64_t written = Clipboard::changeCount();
     contents().setText(QStringLiteral("geheim"));
     EXPECT_THAT(Clipboard::changeCount(), Gt(written));
+}
+
+TEST_F(SystemClipboardTest, LeavesAnEmptyOfferWhileNoWindowHasTheKeyboard)
+{
+    Clipboard::setSecret(QStringLiteral("geheim"));
+    const QMimeData* const offered = contents().mimeData();
+    Clipboard::clear();
+    EXPECT_EQ(contents().mimeData(), offered);
+    EXPECT_THAT(offered->formats(), IsEmpty());
 }
 
 TEST_F(SystemClipboardTest, AClearedClipboardCanBeClearedAgain)
