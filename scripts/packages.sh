@@ -49,6 +49,7 @@ packages[e2e]='
     python3-pyatspi
     strace
     sway
+    weston
     wl-clipboard
     wmctrl
     x11-utils

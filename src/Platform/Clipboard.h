@@ -15,8 +15,9 @@ namespace Platform::Clipboard {
 /// the clipboard are told that it is a secret, where the system has a way to tell them.
 void setSecret(const QString& text);
 
-/// Empties the clipboard. Where a desktop refuses that to a program in the background, or brings
-/// the contents back, empties it again when the user returns to this program.
+/// Empties the clipboard. Where a desktop refuses that to a program in the background, the offer
+/// stays with nothing in it until the user returns to this program. Contents that are brought back
+/// are cleared again then.
 void clear();
 
 /// A counter that rises with every write of this program, this interface's or another's, and as

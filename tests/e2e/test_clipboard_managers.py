@@ -1,19 +1,30 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The real clipboard with managers that collect what is on it, in their real homes.
+"""The real clipboard with managers that collect what is on it, in their real homes, and with a
+compositor that is one itself.
 
 Each has a desktop of its own, and they run side by side.
 """
 
 import concurrent.futures
 import itertools
+import os
 import subprocess
 import time
 import unittest
 
 from desktop import Desktop, Program, until
-from test_clipboard import GRACE, Session, X11Session, assert_in_time, cleared
+from test_clipboard import (
+    GRACE,
+    STAYS,
+    Session,
+    WaylandSession,
+    X11Session,
+    assert_in_time,
+    cleared,
+)
+from wayland import a_socket, overlook_leaks
 
 HANDOVER = 5.0
 """Seconds for which Qt has a clipboard manager fetch the contents of a program that ends."""
@@ -129,6 +140,41 @@ class CopyQ(ManagedSession):
         self.manager.wait()
 
 
+class WestonDesktop(Desktop):
+    """Weston in a window of an X server, which has a keyboard for it."""
+
+    def _start_display(self):
+        super()._start_display()
+        runtime = self._folder / "runtime"
+        self._start(["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0"])
+        os.environ["WAYLAND_DISPLAY"] = until(
+            lambda: a_socket(runtime, "wayland-?"), "the compositor's socket"
+        )
+        os.environ["QT_QPA_PLATFORM"] = "wayland"
+        overlook_leaks()
+
+
+class Weston(WaylandSession):
+    """Puts back its copy of the last text whenever nothing is on offer."""
+
+    def __init__(self):
+        Session.__init__(self, WestonDesktop(), Program)
+
+    def start(self):
+        """The copy itself waits for the keyboard."""
+
+    def press_copy(self):
+        self.activate()
+        self.run("xdotool", "key", "ctrl+shift+c")
+        time.sleep(0.5)
+
+    def activate(self):
+        """Gives the window the keyboard, which every look at the clipboard takes away, and Weston
+        does not return to a window that came in between."""
+        time.sleep(0.5)
+        self.run("xdotool", "key", "super+Tab")
+
+
 def text_without_owner_is_brought_back(session):
     session.copy()
     secret = session.text()
@@ -144,6 +190,17 @@ def cleared_secret_is_not_brought_back(session):
     assert_in_time(cleared(session) - start)
     assert_stays_empty(session)
     session.quit()
+    assert_stays_empty(session)
+
+
+def cleared_secret_is_not_brought_back_by_compositor(session):
+    session.copy()
+    session.activate()
+    # No look at the clipboard meanwhile: the window is to have the keyboard.
+    time.sleep(STAYS + GRACE)
+    assert_stays_empty(session)
+    session.program.process.terminate()
+    session.program.process.wait()
     assert_stays_empty(session)
 
 
@@ -183,6 +240,8 @@ STORIES = (
     (Clipman, cleared_secret_is_not_brought_back),
     (Clipman, quitting_waits_for_no_manager),
     (CopyQ, secret_marked_as_one_is_not_kept),
+    (Weston, text_without_owner_is_brought_back),
+    (Weston, cleared_secret_is_not_brought_back_by_compositor),
 )
 
 
@@ -196,6 +255,7 @@ class Managers(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
+        options = os.environ.get("ASAN_OPTIONS")
         workers = concurrent.futures.ThreadPoolExecutor(len(STORIES))
         cls.addClassCleanup(workers.shutdown)
         cls.told = {}
@@ -204,6 +264,8 @@ class Managers(unittest.TestCase):
             session = kind()
             cls.addClassCleanup(session.close)
             cls.told[kind, story] = workers.submit(tell, story, session)
+        if options is not None:
+            os.environ["ASAN_OPTIONS"] = options
 
 
 def add_test(kind, story):

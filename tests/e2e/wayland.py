@@ -68,11 +68,7 @@ class WaylandDesktop(Desktop):
 
     def _start_display(self):
         os.environ["QT_QPA_PLATFORM"] = "wayland"
-        # Qt keeps what it has bound of Wayland until the end, and the graphics driver that it loads
-        # and unloads leaks as well. Leaks of the program's own show on X11.
-        os.environ["ASAN_OPTIONS"] = ":".join(
-            [os.environ.get("ASAN_OPTIONS", ""), "detect_leaks=0"]
-        )
+        overlook_leaks()
         self._folder.chmod(0o711)  # the compositor may be another user
         folder = self._folder / "sway"
         folder.mkdir(mode=0o700)
@@ -343,6 +339,13 @@ class VirtualInput:
                 raise AssertionError("the compositor has hung up")
             data += part
         return data
+
+
+def overlook_leaks():
+    """Has the sanitizer build say nothing of leaks."""
+    # Qt keeps what it has bound of Wayland until the end, and the graphics driver that it loads and
+    # unloads leaks as well. Leaks of the program's own show on X11.
+    os.environ["ASAN_OPTIONS"] = ":".join([os.environ.get("ASAN_OPTIONS", ""), "detect_leaks=0"])
 
 
 def now():
