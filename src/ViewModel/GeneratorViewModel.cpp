@@ -106,11 +106,12 @@ void GeneratorViewModel::copyToClipboard()
     });
 }
 
-void GeneratorViewModel::setGenerated(const QString& value)
+// A copy, because the value may be the very one that it replaces.
+void GeneratorViewModel::setGenerated(QString value)
 {
-    release(std::exchange(m_generated, value));
+    release(std::exchange(m_generated, std::move(value)));
     Q_EMIT generatedChanged();
-    m_entropy = m_generator.estimatedEntropy(value, m_settings);
+    m_entropy = m_generator.estimatedEntropy(m_generated, m_settings);
     Q_EMIT entropyChanged();
 }
 

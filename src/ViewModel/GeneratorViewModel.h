@@ -103,7 +103,7 @@ Q_SIGNALS:
     void copiedChanged();
 
 private:
-    void setGenerated(const QString& value);
+    void setGenerated(QString value);
     void setErrorMessage(const std::optional<QString>& message);
     void setCopied(bool copied);
     void remember(const QString& value);
