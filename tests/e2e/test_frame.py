@@ -4,6 +4,7 @@
 """The window's own frame under an X11 window manager: buttons, edges, strip and menu."""
 
 import ctypes
+import itertools
 import pathlib
 import re
 import subprocess
@@ -79,12 +80,22 @@ class Frame(unittest.TestCase):
     def state(self):
         return output("xprop", "-id", self.window, "_NET_WM_STATE", "WM_STATE")
 
-    def drag(self, start, end):
+    def drag(self, start, end, there):
+        """Drags from one point of the screen to another until the window is where it should be."""
+        before = self.place()
+        # Far enough for a drag, and not yet as far as it goes.
+        x, y = (a + max(-20, min(20, b - a)) for a, b in zip(start, end))
+        shaking = itertools.cycle(((x, y), (x + 1, y + 1)))
+
+        def follows():
+            point(*next(shaking))
+            return self.place() != before
+
         point(*start)
         subprocess.run(["xdotool", "mousedown", "1"], check=True)
-        middle = ((start[0] + end[0]) // 2, (start[1] + end[1]) // 2)
-        for x, y in (middle, end):
-            point(x, y)
+        until(follows, "a window that follows the pointer")
+        point(*end)
+        until(lambda: there(self.place()), f"a window dragged to {end}")
         subprocess.run(["xdotool", "mouseup", "1"], check=True)
 
     def test_the_window_manager_adds_no_frame(self):
@@ -117,15 +128,14 @@ class Frame(unittest.TestCase):
                     int(before[i] + at[i] * (before[i + 2] - 1) + (2 if at[i] == 0 else 0))
                     for i in (0, 1)
                 )
-                self.drag(start, (start[0] + by[0], start[1] + by[1]))
                 expected = tuple(a + b for a, b in zip(before, change))
-                until(lambda: self.place() == expected, f"{expected} by the {name}")
+                end = (start[0] + by[0], start[1] + by[1])
+                self.drag(start, end, lambda place: place == expected)
 
     def test_no_edge_makes_it_smaller_than_its_content(self):
         left, top, width, height = self.place()
         start = (left + width - 1, top + height - 1)
-        self.drag(start, (left + 200, top + 200))
-        until(lambda: self.place()[2:] == (760, 610), "the smallest window")
+        self.drag(start, (left + 200, top + 200), lambda place: place[2:] == (760, 610))
 
     def test_edges_and_corners_show_where_they_lead(self):
         left, top, width, height = self.place()
@@ -161,13 +171,12 @@ class Frame(unittest.TestCase):
 
     def assert_moves_by(self, x):
         left, top, width, height = self.place()
-        point(left + x, top + 12)
-        subprocess.run(["xdotool", "mousedown", "1"], check=True)
-        for step in (4, 8, 12, 50, 150):
-            point(left + x + step, top + 12 + step)
         # It follows from where the program saw that the pointer had moved enough for a drag.
-        until(lambda: 100 <= self.place()[0] - left <= 150, "a moved window")
-        subprocess.run(["xdotool", "mouseup", "1"], check=True)
+        self.drag(
+            (left + x, top + 12),
+            (left + x + 150, top + 12 + 150),
+            lambda place: 100 <= place[0] - left <= 150,
+        )
         self.assertEqual(self.place()[0] - left, self.place()[1] - top)
         self.assertEqual(self.place()[2:], (width, height))
 
