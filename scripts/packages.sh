@@ -47,6 +47,7 @@ packages[e2e]='
     mesa-vulkan-drivers
     openbox
     python3-pyatspi
+    python3-xlib
     strace
     sway
     weston
@@ -55,6 +56,7 @@ packages[e2e]='
     x11-utils
     xclip
     xfce4-clipman
+    xfce4-settings
 '
 
 packages[bench]='

@@ -17,6 +17,7 @@
 #include <QQmlExtensionPlugin>
 #include <QQuickWindow>
 
+#include <chrono>
 #include <cstdlib>
 #include <future>
 #include <iostream>
@@ -26,6 +27,8 @@ Q_IMPORT_QML_PLUGIN(Morvane_ViewModelPlugin)
 Q_IMPORT_QML_PLUGIN(Morvane_ViewsPlugin)
 
 namespace {
+
+using namespace std::chrono_literals;
 
 // Without a display Qt ends the program as if it had crashed. Any other fatal message is a fault of
 // ours, and ends it that way.
@@ -57,6 +60,14 @@ void readFontDatabase(const QFont& font)
     QFontMetricsF(font).height();
 }
 
+/// Ends the program where Qt would not let it: on X11 it waits up to five seconds for a clipboard
+/// manager to fetch what was copied, and some never do.
+void endInTime(const std::future<void>& ended, int status)
+{
+    if (ended.wait_for(300ms) == std::future_status::timeout)
+        std::_Exit(status);
+}
+
 /// For desktops that do not know the program by its desktop entry.
 void setWindowIcon()
 {
@@ -70,6 +81,10 @@ void setWindowIcon()
 
 int MorvaneApp::run(int argc, char** argv) const
 {
+    // In the order of their ends: the application's, the promise's, the watch's.
+    std::future<void> watch;
+    std::promise<void> ended;
+
     Platform::ProcessMemory::hide();
     // Connecting to the display starts threads, and these shall be bound as well.
     Platform::Confinement::closeFiles();
@@ -111,5 +126,7 @@ int MorvaneApp::run(int argc, char** argv) const
     QObject::connect(window, &QQuickWindow::frameSwapped, window, setWindowIcon,
                      Qt::SingleShotConnection);
     window->show();
-    return QGuiApplication::exec();
+    const int status = QGuiApplication::exec();
+    watch = std::async(std::launch::async, endInTime, ended.get_future(), status);
+    return status;
 }

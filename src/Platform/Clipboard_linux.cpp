@@ -33,21 +33,6 @@ bool isX11()
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-/// On X11 the contents go with the program. Qt would first have a clipboard manager fetch them, and
-/// wait five seconds for one that does not answer.
-void quitWithoutHandingOver()
-{
-    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, [] {
-        if (!isX11())
-            return;
-        QClipboard& clipboard = *QGuiApplication::clipboard();
-        if (clipboard.ownsClipboard())
-            clipboard.clear(QClipboard::Clipboard);
-        if (clipboard.ownsSelection())
-            clipboard.clear(QClipboard::Selection);
-    });
-}
-
 QByteArray fingerprint(const QString& text)
 {
     return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
@@ -186,8 +171,6 @@ CountedClipboard& clipboard()
 }
 
 } // namespace
-
-Q_COREAPP_STARTUP_FUNCTION(quitWithoutHandingOver)
 
 void setSecret(const QString& text)
 {

@@ -14,6 +14,8 @@ import subprocess
 import time
 import unittest
 
+from Xlib import X, display
+
 from desktop import Desktop, Program, until
 from test_clipboard import (
     GRACE,
@@ -140,6 +142,23 @@ class CopyQ(ManagedSession):
         self.manager.wait()
 
 
+class SettingsDaemon(ManagedSession):
+    """Fetches what is on the clipboard from a program that ends, and keeps it there."""
+
+    command = ("xfsettingsd", "--no-daemon", "--disable-wm-check")
+
+    def start(self):
+        until(self.has_clipboard_manager, "a clipboard manager")
+        X11Session.start(self)
+
+    def has_clipboard_manager(self):
+        screen = display.Display(self.environment["DISPLAY"])
+        try:
+            return screen.get_selection_owner(screen.get_atom("CLIPBOARD_MANAGER")) != X.NONE
+        finally:
+            screen.close()
+
+
 class WestonDesktop(Desktop):
     """Weston in a window of an X server, which has a keyboard for it."""
 
@@ -227,6 +246,13 @@ def quitting_waits_for_no_manager(session):
         raise AssertionError(f"took {elapsed:.2f} s")
 
 
+def secret_outlives_the_program(session):
+    session.copy()
+    secret = session.text()
+    session.quit()
+    until(lambda: session.text() == secret, "the secret that was handed over")
+
+
 def assert_stays_empty(session):
     end = time.monotonic() + GRACE
     while time.monotonic() < end:
@@ -239,6 +265,7 @@ STORIES = (
     (Clipman, text_without_owner_is_brought_back),
     (Clipman, cleared_secret_is_not_brought_back),
     (Clipman, quitting_waits_for_no_manager),
+    (SettingsDaemon, secret_outlives_the_program),
     (CopyQ, secret_marked_as_one_is_not_kept),
     (Weston, text_without_owner_is_brought_back),
     (Weston, cleared_secret_is_not_brought_back_by_compositor),
