@@ -12,7 +12,7 @@ PopupMenu {
     // value.
     required property TextInput field
     readonly property string selectedText: field ? field.selectedText : value.selectedText
-    required property TextEdit value
+    required property ValueText value
     required property Window window
 
     signal openWindow(string identifier)

@@ -36,7 +36,7 @@ Window {
         id: frame
 
         anchors.fill: parent
-        value: content.value.editor
+        value: content.value
         visible: root.drawsFrame
         window: root
 

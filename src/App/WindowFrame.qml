@@ -13,7 +13,7 @@ Item {
     property TextInput field
     // The button that asked for the menu before it was built.
     property Item menuButton
-    required property TextEdit value
+    required property ValueText value
     required property Window window
 
     signal openWindow(string identifier)

@@ -12,12 +12,21 @@ FocusScope {
     required property string text
 
     readonly property alias editor: editor
+    readonly property alias selectedText: editor.selectedText
     readonly property int fullSize: PerceivedText.count(text) <= 38 ? Style.valueSize : Style.longValueSize
     // Of a secret with more than one line: one of at most 38 characters never has three.
     readonly property int largestHeight: 3 * Math.ceil(longMetrics.lineSpacing)
     readonly property int smallestSize: Math.ceil(0.65 * fullSize)
     readonly property alias size: editor.font.pixelSize
     readonly property bool truncated: fitting.lineCount > 3
+
+    function copy(): void {
+        selection.copy();
+    }
+
+    function selectAll(): void {
+        editor.selectAll();
+    }
 
     activeFocusOnTab: true
     implicitHeight: Math.min(editor.contentHeight, 3 * Math.ceil(metrics.lineSpacing))
@@ -86,6 +95,12 @@ FocusScope {
         Accessible.name: text
         Accessible.readOnly: true
         Accessible.role: Accessible.StaticText
+    }
+
+    SecretSelection {
+        id: selection
+
+        editor: editor
     }
 
     ShortcutYielding {

@@ -56,6 +56,10 @@ def cursor_outline():
     return [row[left:right] for row in rows]
 
 
+def pasted(target="UTF8_STRING"):
+    return output("timeout", "2", "xclip", "-o", "-selection", "clipboard", "-t", target)
+
+
 class Frame(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -97,6 +101,13 @@ class Frame(unittest.TestCase):
         point(*end)
         until(lambda: there(self.place()), f"a window dragged to {end}")
         subprocess.run(["xdotool", "mouseup", "1"], check=True)
+
+    def assert_secret(self):
+        """What is copied is plain text, with the mark of a secret."""
+        formats = pasted("TARGETS").split()
+        self.assertIn("text/plain", formats)
+        self.assertNotIn("text/html", formats)
+        self.assertEqual(pasted("x-kde-passwordManagerHint"), "secret")
 
     def test_the_window_manager_adds_no_frame(self):
         extents = output("xprop", "-id", self.window, "_NET_FRAME_EXTENTS")
@@ -252,10 +263,8 @@ class Frame(unittest.TestCase):
         until(self.menu_is_closed, "a closed menu")
         self.open_menu()
         self.program.click("Kopieren", "menu item")
-        until(
-            lambda: output("timeout", "2", "xclip", "-o", "-selection", "clipboard") == value,
-            "the value on the clipboard",
-        )
+        until(lambda: pasted() == value, "the value on the clipboard")
+        self.assert_secret()
 
     def test_the_usual_keys(self):
         key("ctrl+m")
@@ -264,10 +273,8 @@ class Frame(unittest.TestCase):
         until(lambda: "Normal" in self.state(), "the window again")
         value = self.program.value()
         key("ctrl+a", "ctrl+c")
-        until(
-            lambda: output("timeout", "2", "xclip", "-o", "-selection", "clipboard") == value,
-            "the value on the clipboard",
-        )
+        until(lambda: pasted() == value, "the value on the clipboard")
+        self.assert_secret()
         key("ctrl+q")
         self.assertEqual(self.program.ended(), (0, ""))
 

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Clipboard.h"
+
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+/// Copies what is selected in `editor`, a `TextEdit`, as the secret that it is. By itself the
+/// editor would offer it as a styled document as well, and tell nobody to leave it.
+class SecretSelection : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(QQuickItem* editor READ editor WRITE setEditor NOTIFY editorChanged REQUIRED FINAL)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] QQuickItem* editor() const { return m_editor; }
+
+    void setEditor(QQuickItem* editor)
+    {
+        if (m_editor)
+            m_editor->removeEventFilter(this);
+        m_editor = editor;
+        if (m_editor)
+            m_editor->installEventFilter(this);
+        Q_EMIT editorChanged();
+    }
+
+    /// Does nothing while nothing is selected.
+    Q_INVOKABLE void copy() const
+    {
+        const QString text = m_editor ? m_editor->property("selectedText").toString() : QString();
+        if (!text.isEmpty())
+            Platform::Clipboard::setSecret(text);
+    }
+
+Q_SIGNALS:
+    void editorChanged();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress
+            || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+            return QObject::eventFilter(watched, event);
+        copy();
+        return true;
+    }
+
+private:
+    QPointer<QQuickItem> m_editor;
+};
