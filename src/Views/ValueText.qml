@@ -40,9 +40,12 @@ FocusScope {
     FontMetrics {
         id: longMetrics
 
-        font.family: editor.font.family
-        font.pixelSize: Style.longValueSize
-        font.weight: editor.font.weight
+        // In one piece: for each font on the way to this one, a font file would be loaded.
+        font: Qt.font({
+                "family": editor.font.family,
+                "pixelSize": Style.longValueSize,
+                "weight": editor.font.weight
+            })
     }
 
     // An editor does not fit its text into a place. This one does, never seen: with lines of the same
