@@ -12,8 +12,10 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Copies what is selected in `editor`, a `TextEdit`, as the secret that it is. By itself the
-/// editor would offer it as a styled document as well, and tell nobody to leave it.
+/// Makes of `editor`, a read-only `TextEdit`, one that shows a secret. What is selected is copied
+/// as a secret: the editor would offer it as a styled document as well, and tell nobody to leave
+/// it. And shortcuts go to the window: the editor would claim them all, those that it has no use
+/// for too.
 class SecretSelection : public QObject
 {
     Q_OBJECT
@@ -50,11 +52,19 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::KeyPress
-            || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
-            return QObject::eventFilter(watched, event);
-        copy();
-        return true;
+        switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            event->ignore();
+            return true;
+        case QEvent::KeyPress:
+            if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+                break;
+            copy();
+            return true;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
     }
 
 private:

@@ -106,10 +106,6 @@ FocusScope {
         editor: editor
     }
 
-    ShortcutYielding {
-        target: editor
-    }
-
     Text {
         anchors.fill: parent
         color: Style.text
