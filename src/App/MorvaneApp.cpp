@@ -86,7 +86,7 @@ int MorvaneApp::run(int argc, char** argv) const
     std::future<void> watch;
     std::promise<void> ended;
 
-    Platform::ProcessMemory::hide();
+    Platform::ProcessMemory::keepFromDumps();
     // Connecting to the display starts threads, and these shall be bound as well.
     Platform::Confinement::closeFiles();
 

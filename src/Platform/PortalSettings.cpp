@@ -33,12 +33,16 @@ PortalSettings::PortalSettings(const QStringList& groups, QObject* parent)
     QDBusMessage question
         = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
     question << groups;
-    const auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    m_isAsking = true;
+    constexpr int patience = 5000;
+    const auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question, patience), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this](auto* finished) {
         finished->deleteLater();
         const QDBusPendingReply<Groups> reply = *finished;
         if (!reply.isError())
             takeAnswer(reply.value());
+        m_isAsking = false;
+        Q_EMIT asked();
     });
 }
 

@@ -9,8 +9,13 @@
 /// The memory of this process, in which secrets lie while it runs.
 namespace Platform::ProcessMemory {
 
-/// Keeps it out of core dumps, and out of reach of debuggers and of other programs of the user.
-/// Does nothing in builds with assertions, which are there to be debugged.
+// The first two do nothing in builds with assertions, which are there to be debugged.
+
+/// Keeps it out of core dumps.
+void keepFromDumps() noexcept;
+
+/// Keeps it out of reach of debuggers and of other programs of the user, who can also see less of
+/// the process from then on.
 void hide() noexcept;
 
 /// Overwrites bytes with zeros, also where a compiler sees that nobody reads them again.

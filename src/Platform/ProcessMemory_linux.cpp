@@ -10,13 +10,17 @@
 
 namespace Platform::ProcessMemory {
 
+void keepFromDumps() noexcept
+{
+#ifdef NDEBUG
+    const rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
+#endif
+}
+
 void hide() noexcept
 {
 #ifdef NDEBUG
-    // A handler that dumps are piped to gets none of a process that cannot be dumped, but where
-    // dumps are files, the limit counts as well.
-    const rlimit none{0, 0};
-    ::setrlimit(RLIMIT_CORE, &none);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): it has no other form
     ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 #endif

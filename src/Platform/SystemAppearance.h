@@ -22,7 +22,8 @@ struct SystemAppearance
 
     /// Calls `changed` on the user-interface thread with every answer of the system that differs
     /// from the one before (at first: from a default-constructed one), for as long as `observer`
-    /// lives. Returns at once; where the system never answers, `changed` is never called.
+    /// lives. Returns at once; where the system never answers, `changed` is never called. Hides the
+    /// process's memory as soon as the system has no more need to look at who asks.
     static void observe(QObject* observer, std::function<void(const SystemAppearance&)> changed);
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Platform/PortalSettings.h"
+#include "Platform/ProcessMemory.h"
 #include "Platform/SystemAppearance.h"
 
 #include <utility>
@@ -51,6 +52,13 @@ void SystemAppearance::observe(QObject* observer,
                          if (current != std::exchange(told, current))
                              changed(current);
                      });
+
+    // Before its first answer the portal looks at who asks, and gives none to a hidden process.
+    // From then on it knows.
+    if (settings->isAsking())
+        QObject::connect(settings, &PortalSettings::asked, observer, ProcessMemory::hide);
+    else
+        ProcessMemory::hide();
 }
 
 } // namespace Platform

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
+#include "Platform/ProcessMemory.h"
 #include "Platform/SystemAppearance.h"
 
 #import <AppKit/AppKit.h>
@@ -14,6 +15,7 @@ void SystemAppearance::observe(QObject* /*observer*/,
     const bool reducedMotion = [NSWorkspace sharedWorkspace].accessibilityDisplayShouldReduceMotion;
     if (reducedMotion)
         changed({.reducedMotion = true});
+    ProcessMemory::hide();
 }
 
 } // namespace Platform

@@ -115,7 +115,39 @@ def serve():
             for pattern in patterns
         )
 
-    def answer(_bus, _sender, _path, _interface, method, parameters, invocation):
+    known = set()
+
+    def ask_bus(method, sender):
+        (number,) = bus.call_sync(
+            "org.freedesktop.DBus",
+            "/org/freedesktop/DBus",
+            "org.freedesktop.DBus",
+            method,
+            GLib.Variant("(s)", (sender,)),
+            GLib.VariantType("(u)"),
+            Gio.DBusCallFlags.NONE,
+            -1,
+            None,
+        )
+        return number
+
+    def knows(sender):
+        """Looks at a process the first time, which one that hides does not allow."""
+        if sender in known:
+            return True
+        process = ask_bus("GetConnectionUnixProcessID", sender)
+        if os.stat(f"/proc/{process}/root", follow_symlinks=False).st_uid == ask_bus(
+            "GetConnectionUnixUser", sender
+        ):
+            known.add(sender)
+        return sender in known
+
+    def answer(_bus, sender, _path, _interface, method, parameters, invocation):
+        if not knows(sender):
+            invocation.return_dbus_error(
+                "org.freedesktop.DBus.Error.AccessDenied", "Portal operation not allowed"
+            )
+            return
         if method == "ReadAll":
             (patterns,) = parameters.unpack()
             chosen = {name: keys for name, keys in settings.items() if wanted(name, patterns)}
