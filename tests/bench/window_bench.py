@@ -11,7 +11,7 @@ start-up  From just before the process is started until the X server reports, by
           colour of the root window. The report is taken on arrival, within some tenths of a
           millisecond.
 at rest   The same until the last drawing of the first second.
-memory    The high-water mark of resident memory, and after a second the proportional share as well.
+memory    The high-water mark of resident memory, and after a second also what is no file's.
 idle      Context switches of all threads while nothing happens and the window has the keyboard.
 drag      The pointer first goes over the slider slowly, to learn what each value looks like and
           where it begins, and then pixel by pixel at the pace of a mouse. A value counts as drawn
@@ -238,8 +238,8 @@ class Run:
     def peak_memory(self):
         return self._kibibytes("status", "VmHWM:")
 
-    def proportional_memory(self):
-        return self._kibibytes("smaps_rollup", "Pss:")
+    def anonymous_memory(self):
+        return self._kibibytes("status", "RssAnon:")
 
     def _kibibytes(self, file, field):
         for line in self._read(file).splitlines():
@@ -280,7 +280,7 @@ FIELDS = (
     "picture at rest",
     "peak at first frame",
     "peak after 1 s",
-    "PSS after 1 s",
+    "no file's after 1 s",
 )
 
 
@@ -295,7 +295,7 @@ def one_round(desktop, program):
             (first if last is None else last) * 1000,
             peak / 1024,
             run.peak_memory() / 1024,
-            run.proportional_memory() / 1024,
+            run.anonymous_memory() / 1024,
         )
 
 
