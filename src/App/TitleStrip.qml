@@ -8,12 +8,11 @@ import Morvane.Views
 Item {
     id: root
 
+    required property bool maximized
     required property Window window
 
     // Someone wants to see the menu of this button, or no longer.
     signal menuToggled(Item button)
-
-    readonly property bool maximized: window.visibility === Window.Maximized || window.visibility === Window.FullScreen
 
     implicitHeight: 40
 

@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 import QtQml.Models
 import QtQuick
+import Morvane.App
 import Morvane.Views
 
 // What the program draws of the window's frame where the system draws none.
@@ -18,10 +19,17 @@ Item {
 
     signal openWindow(string identifier)
 
+    WindowState {
+        id: windowState
+
+        window: root.window
+    }
+
     TitleStrip {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
+        maximized: windowState.filling
         window: root.window
 
         onMenuToggled: button => {
@@ -35,15 +43,14 @@ Item {
 
     ResizeBorder {
         anchors.fill: parent
-        visible: root.window.visibility === Window.Windowed
-        window: root.window
+        visible: windowState.windowed
     }
 
     Rectangle {
         anchors.fill: parent
         border.color: Style.divider
         color: "transparent"
-        visible: root.window.visibility === Window.Windowed
+        visible: windowState.windowed
     }
 
     // The first frame does without.
