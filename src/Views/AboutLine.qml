@@ -5,7 +5,7 @@ import QtQuick
 // A text in the middle of its column, on as many lines as it needs.
 Text {
     color: Style.text
-    font.pixelSize: Style.bodySize
+    font: Style.fonts.body
     horizontalAlignment: Text.AlignHCenter
     textFormat: Text.PlainText
     width: parent ? parent.width : implicitWidth

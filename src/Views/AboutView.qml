@@ -25,8 +25,7 @@ Rectangle {
         }
 
         AboutLine {
-            font.bold: true
-            font.pixelSize: Style.titleSize
+            font: Style.fonts.title
             text: "Morvane"
 
             Accessible.role: Accessible.Heading
@@ -38,8 +37,7 @@ Rectangle {
         }
 
         AboutLine {
-            font.pixelSize: Style.headlineSize
-            font.weight: Font.DemiBold
+            font: Style.fonts.headline
             text: "Sichere Passwörter. Lokal geschmiedet."
         }
 
@@ -53,20 +51,19 @@ Rectangle {
 
         AboutLine {
             color: Style.secondaryText
-            font.pixelSize: Style.captionSize
+            font: Style.fonts.caption
             text: "Keine Cloud, keine Konten, keine Passwortspeicherung."
         }
 
         AboutLine {
-            font.pixelSize: Style.captionSize
-            font.weight: Font.Medium
+            font: Style.fonts.credit
             objectName: "aboutCredit"
             text: "Entwickelt von\nMorvane-Projekt – Morvane-Team"
         }
 
         AboutLine {
             color: Style.tertiaryText
-            font.pixelSize: Style.caption2Size
+            font: Style.fonts.caption2
             text: "© 2026 Morvane-Projekt"
         }
     }

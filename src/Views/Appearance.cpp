@@ -53,15 +53,10 @@ bool Appearance::dark() const
     return m_system.dark ? *m_system.dark : paletteIsDark();
 }
 
-double Appearance::textScale() const
+double Appearance::textScale()
 {
     const int pixels = QFontInfo(QGuiApplication::font()).pixelSize();
     return std::max(1.0, static_cast<double>(pixels) / bodyTextPixels);
-}
-
-int Appearance::hintingPreference() const
-{
-    return QGuiApplication::font().hintingPreference();
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event)

@@ -18,7 +18,6 @@ class Appearance : public QObject
     Q_PROPERTY(bool dark READ dark NOTIFY changed FINAL)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed FINAL)
     Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
-    Q_PROPERTY(int hintingPreference READ hintingPreference NOTIFY changed FINAL)
 
 public:
     explicit Appearance(QObject* parent = nullptr);
@@ -28,9 +27,7 @@ public:
     /// Whether to leave out all movement that only decorates.
     [[nodiscard]] bool reducedMotion() const { return m_system.reducedMotion; }
     /// The height of the user's font in units of 13 pixels, and not less than 1.
-    [[nodiscard]] double textScale() const;
-    /// The application font's `QFont::HintingPreference`.
-    [[nodiscard]] int hintingPreference() const;
+    [[nodiscard]] static double textScale();
 
 Q_SIGNALS:
     void changed();

@@ -37,8 +37,7 @@ T.Dialog {
 
         Text {
             color: Style.text
-            font.pixelSize: Style.headlineSize
-            font.weight: Font.DemiBold
+            font: Style.fonts.headline
             horizontalAlignment: Text.AlignHCenter
             objectName: "alertTitle"
             text: root.title
@@ -49,7 +48,7 @@ T.Dialog {
 
         Text {
             color: Style.text
-            font.pixelSize: Style.bodySize
+            font: Style.fonts.body
             horizontalAlignment: Text.AlignHCenter
             objectName: "alertMessage"
             text: root.message

@@ -24,8 +24,7 @@ Rectangle {
 
         Text {
             color: Style.text
-            font.pixelSize: Style.headlineSize
-            font.weight: Font.DemiBold
+            font: Style.fonts.headline
             objectName: "historyHeading"
             text: "Diese Sitzung"
             textFormat: Text.PlainText

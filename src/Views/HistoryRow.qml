@@ -8,9 +8,7 @@ import QtQuick.Templates as T
 T.Button {
     id: root
 
-    font.family: "monospace"
-    font.hintingPreference: Style.hintingPreference
-    font.pixelSize: Style.calloutSize
+    font: Style.fonts.row
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     leftPadding: 0

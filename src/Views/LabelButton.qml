@@ -16,8 +16,7 @@ T.Button {
     property string reservedText: text
     property string symbol
 
-    font.hintingPreference: Style.hintingPreference
-    font.pixelSize: Style.bodySize
+    font: Style.fonts.body
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: Math.max(implicitContentWidth, reserved.implicitWidth) + leftPadding + rightPadding
     leftPadding: 16

@@ -8,8 +8,7 @@ T.TextField {
     id: root
 
     color: Style.text
-    font.hintingPreference: Style.hintingPreference
-    font.pixelSize: Style.bodySize
+    font: Style.fonts.body
     implicitHeight: contentHeight + topPadding + bottomPadding
     implicitWidth: 160
     opacity: enabled ? 1 : 0.4

@@ -11,8 +11,7 @@ T.MenuItem {
     // The names of keys on a German keyboard.
     readonly property string keys: String(action.shortcut ?? "").replace("Ctrl", "Strg").replace("Shift", "Umschalt")
 
-    font.hintingPreference: Style.hintingPreference
-    font.pixelSize: Style.bodySize
+    font: Style.fonts.body
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + 32 + keyNames.implicitWidth + leftPadding + rightPadding
     leftPadding: 10

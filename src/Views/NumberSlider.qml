@@ -23,7 +23,7 @@ Column {
             id: title
 
             color: Style.text
-            font.pixelSize: Style.bodySize
+            font: Style.fonts.body
             text: root.name
             textFormat: Text.PlainText
         }
@@ -31,7 +31,7 @@ Column {
         Text {
             anchors.right: parent.right
             color: Style.secondaryText
-            font.pixelSize: Style.bodySize
+            font: Style.fonts.body
             objectName: "number"
             text: root.value
             textFormat: Text.PlainText

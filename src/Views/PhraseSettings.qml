@@ -39,7 +39,7 @@ Column {
             id: separatorTitle
 
             color: Style.text
-            font.pixelSize: Style.calloutSize
+            font: Style.fonts.callout
             objectName: "separatorTitle"
             text: "Trennzeichen"
             textFormat: Text.PlainText

@@ -51,8 +51,7 @@ Rectangle {
 
             SymbolLabel {
                 color: Style.strengthColor(root.model.strengthLevel)
-                font.pixelSize: Style.calloutSize
-                font.weight: Font.Medium
+                font: Style.fonts.rating
                 objectName: "strength"
                 symbol: root.model.strengthSymbol
                 text: root.model.strengthTitle
@@ -64,8 +63,7 @@ Rectangle {
             Text {
                 anchors.verticalCenter: parent.verticalCenter
                 color: Style.secondaryText
-                font.pixelSize: Style.calloutSize
-                font.weight: Font.Medium
+                font: Style.fonts.rating
                 objectName: "entropy"
                 text: "· ca. " + Math.trunc(root.model.entropy) + " Bit"
                 textFormat: Text.PlainText
@@ -101,7 +99,7 @@ Rectangle {
 
         Text {
             color: Style.tertiaryText
-            font.pixelSize: Style.captionSize
+            font: Style.fonts.caption
             horizontalAlignment: Text.AlignHCenter
             objectName: "clipboardNote"
             text: "Die Zwischenablage wird nach 30 Sekunden geleert, sofern du nichts anderes kopierst."

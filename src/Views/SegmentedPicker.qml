@@ -31,8 +31,7 @@ FocusScope {
     FontMetrics {
         id: metrics
 
-        font.pixelSize: Style.bodySize
-        font.weight: Font.DemiBold
+        font: Style.fonts.headline
     }
 
     Rectangle {
@@ -83,9 +82,7 @@ FocusScope {
                 checked: root.currentIndex === index
                 focus: checked
                 focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
-                font.hintingPreference: Style.hintingPreference
-                font.pixelSize: Style.bodySize
-                font.weight: checked ? Font.DemiBold : Font.Normal
+                font: checked ? Style.fonts.headline : Style.fonts.body
                 height: row.height
                 text: modelData
                 width: row.width / root.choices.length

@@ -35,8 +35,7 @@ Rectangle {
         spacing: 18
 
         SymbolLabel {
-            font.bold: true
-            font.pixelSize: Style.title2Size
+            font: Style.fonts.title2
             objectName: "title"
             symbol: "key.horizontal.fill"
             text: "Morvane"
@@ -54,7 +53,7 @@ Rectangle {
 
                 anchors.verticalCenter: parent.verticalCenter
                 color: Style.text
-                font.pixelSize: Style.bodySize
+                font: Style.fonts.body
                 text: "Art"
                 textFormat: Text.PlainText
             }
@@ -127,7 +126,7 @@ Rectangle {
             anchors.leftMargin: 8
             anchors.right: parent.right
             color: Style.secondaryText
-            font.pixelSize: Style.captionSize
+            font: Style.fonts.caption
             objectName: "privacyText"
             text: "Alles bleibt auf diesem Mac. Es wird nichts gespeichert oder übertragen."
             textFormat: Text.PlainText

@@ -14,19 +14,9 @@ QtObject {
     readonly property bool dark: appearance.dark
     readonly property real textScale: appearance.textScale
 
-    readonly property int titleSize: scaled(22)
-    readonly property int title2Size: scaled(17)
-    readonly property int headlineSize: scaled(13)
-    readonly property int bodySize: scaled(13)
-    readonly property int calloutSize: scaled(12)
-    readonly property int captionSize: scaled(11)
-    readonly property int caption2Size: scaled(11)
-
-    readonly property int longValueSize: scaled(22)
-    readonly property int valueSize: scaled(28)
-
-    // For controls: left to themselves, they ask the desktop and not the application.
-    readonly property int hintingPreference: appearance.hintingPreference
+    readonly property TextStyles fonts: TextStyles {
+        scale: style.textScale
+    }
 
     // In milliseconds.
     readonly property int transition: appearance.reducedMotion ? 0 : 120

@@ -8,11 +8,10 @@ Item {
     id: root
 
     property color color: Style.text
-    property font font
+    property font font: Style.fonts.body
     property alias symbol: image.name
     property alias text: label.text
 
-    font.pixelSize: Style.bodySize
     implicitHeight: row.implicitHeight
     implicitWidth: row.implicitWidth
 

@@ -7,8 +7,7 @@ import QtQuick.Templates as T
 T.Switch {
     id: root
 
-    font.hintingPreference: Style.hintingPreference
-    font.pixelSize: Style.bodySize
+    font: Style.fonts.body
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth
     opacity: enabled ? 1 : 0.4

@@ -13,7 +13,8 @@ FocusScope {
 
     readonly property alias editor: editor
     readonly property alias selectedText: editor.selectedText
-    readonly property int fullSize: PerceivedText.count(text) <= 38 ? Style.valueSize : Style.longValueSize
+    readonly property font fullFont: PerceivedText.count(text) <= 38 ? Style.fonts.value : Style.fonts.longValue
+    readonly property int fullSize: fullFont.pixelSize
     // Of a secret with more than one line: one of at most 38 characters never has three.
     readonly property int largestHeight: 3 * Math.ceil(longMetrics.lineSpacing)
     readonly property int smallestSize: Math.ceil(0.65 * fullSize)
@@ -40,12 +41,7 @@ FocusScope {
     FontMetrics {
         id: longMetrics
 
-        // In one piece: for each font on the way to this one, a font file would be loaded.
-        font: Qt.font({
-                "family": editor.font.family,
-                "pixelSize": Style.longValueSize,
-                "weight": editor.font.weight
-            })
+        font: Style.fonts.longValue
     }
 
     // An editor does not fit its text into a place. This one does, never seen: with lines of the same
@@ -53,9 +49,7 @@ FocusScope {
     Text {
         id: fitting
 
-        font.family: editor.font.family
-        font.pixelSize: root.fullSize
-        font.weight: editor.font.weight
+        font: root.fullFont
         fontSizeMode: Text.Fit
         height: 3 * lineHeight
         lineHeight: 2 * root.fullSize
@@ -76,9 +70,7 @@ FocusScope {
         // Where the cut text stands, only the selection of the whole one is seen.
         color: root.truncated ? "transparent" : Style.text
         focus: true
-        font.family: "monospace"
-        font.pixelSize: fitting.fontInfo.pixelSize
-        font.weight: Font.DemiBold
+        font: Style.fonts.resized(root.fullFont, fitting.fontInfo.pixelSize)
         horizontalAlignment: TextEdit.AlignHCenter
         objectName: "value"
         persistentSelection: true

@@ -287,8 +287,8 @@ TestCase {
 
     function test_fonts(data) {
         system.setFontPixelSize(data.pixels);
-        compare(Style.bodySize, data.body);
-        verify(Style.captionSize >= 11);
+        compare(Style.fonts.body.pixelSize, data.body);
+        verify(Style.fonts.caption.pixelSize >= 11);
         for (let i = 0; i < 4; ++i)
             content.model.generate();
         verifyNothingIsCut();
