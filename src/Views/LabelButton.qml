@@ -18,7 +18,7 @@ T.Button {
 
     font: Style.fonts.body
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    implicitWidth: Math.max(implicitContentWidth, reserved.implicitWidth) + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
     leftPadding: 16
     opacity: enabled ? 1 : 0.4
     padding: 7
@@ -45,16 +45,8 @@ T.Button {
     contentItem: SymbolLabel {
         color: root.foreground
         font: root.font
+        reservedText: root.reservedText
         symbol: root.symbol
         text: root.text
-    }
-
-    SymbolLabel {
-        id: reserved
-
-        font: root.font
-        symbol: root.symbol
-        text: root.reservedText
-        visible: false
     }
 }

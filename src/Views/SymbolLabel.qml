@@ -9,11 +9,20 @@ Item {
 
     property color color: Style.text
     property font font: Style.fonts.body
+    // The widest of the texts that are shown in turn, so that the width stays.
+    property string reservedText: text
     property alias symbol: image.name
     property alias text: label.text
 
     implicitHeight: row.implicitHeight
-    implicitWidth: row.implicitWidth
+    implicitWidth: (symbol ? image.width + row.spacing : 0) + Math.max(label.implicitWidth, Math.ceil(reserved.advanceWidth))
+
+    TextMetrics {
+        id: reserved
+
+        font: root.font
+        text: root.reservedText
+    }
 
     Row {
         id: row
