@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
-import QtQml.Models
 import QtQuick
 import Morvane.Views
 
@@ -44,24 +42,27 @@ Window {
     }
 
     // Of the About window there is at most one, built afresh each time.
-    Instantiator {
+    Loader {
         id: about
+    }
 
-        active: false
-
-        AboutWindow {
-            transientParent: root
-
-            onClosing: about.active = false
+    Connections {
+        function onClosing() {
+            about.source = "";
         }
+
+        target: about.item
     }
 
     // Opens the window of this identifier, or brings it to the front if it is open.
     function openWindow(identifier: string) {
         if (identifier !== "about")
             return;
-        about.active = true;
-        const window = about.object as Window;
+        if (!about.item)
+            about.setSource("AboutWindow.qml", {
+                    "transientParent": root
+                });
+        const window = about.item as Window;
         window.show();
         window.raise();
         window.requestActivate();

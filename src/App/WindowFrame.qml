@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
-import QtQml.Models
 import QtQuick
+import QtQuick.Templates as T
 import Morvane.App
 import Morvane.Views
 
@@ -33,9 +32,8 @@ Item {
         window: root.window
 
         onMenuToggled: button => {
-            const menu = instantiator.object as MainMenu;
-            if (menu)
-                menu.toggle(button);
+            if (menu.item)
+                root.toggleMenu(button);
             else
                 root.menuButton = button;
         }
@@ -53,24 +51,46 @@ Item {
         visible: windowState.windowed
     }
 
-    // The first frame does without.
-    Instantiator {
-        id: instantiator
+    // Nobody waits for the menu, and the first frame shall not either.
+    Loader {
+        id: menu
 
         asynchronous: true
 
-        MainMenu {
-            field: root.field
-            parent: root
-            value: root.value
-            window: root.window
-
-            onOpenWindow: identifier => root.openWindow(identifier)
-        }
-
-        onObjectAdded: (index, menu) => {
+        onLoaded: {
             if (root.menuButton)
-                (menu as MainMenu).toggle(root.menuButton);
+                root.toggleMenu(root.menuButton);
         }
+    }
+
+    Connections {
+        function onFrameSwapped() {
+            enabled = false;
+            menu.setSource("MainMenu.qml", {
+                    "field": Qt.binding(() => root.field),
+                    "parent": root,
+                    "value": root.value,
+                    "window": root.window
+                });
+        }
+
+        target: root.window
+    }
+
+    Connections {
+        function onOpenWindow(identifier: string) {
+            root.openWindow(identifier);
+        }
+
+        target: menu.item
+    }
+
+    // Shows the menu with its right end below that of `button`, or hides it.
+    function toggleMenu(button: Item) {
+        const shown = menu.item as T.Menu;
+        if (shown.visible)
+            shown.close();
+        else
+            shown.popup(button, button.width - shown.width, button.height + 4);
     }
 }

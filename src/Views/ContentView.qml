@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
-import QtQml.Models
 import QtQuick
 import Morvane.ViewModel
 
@@ -11,7 +9,7 @@ FocusScope {
     id: root
 
     // The smallest size at which all is readable.
-    readonly property real minimumHeight: Math.max(610, Math.ceil(settingsPanel.neededHeight), Math.ceil(resultPanel.neededHeight))
+    readonly property real minimumHeight: Math.max(610, Math.ceil(settingsPanel.implicitHeight), Math.ceil(resultPanel.neededHeight))
     readonly property real minimumWidth: Math.max(760, Math.ceil(settingsPanel.width + divider.width + resultPanel.neededWidth))
     readonly property GeneratorViewModel model: GeneratorViewModel {
     }
@@ -19,16 +17,20 @@ FocusScope {
     property real topInset: 0
     readonly property alias value: resultPanel.value
 
-    SettingsPanel {
+    // The settings come last: what they are made of is read while the rest is being built.
+    Loader {
         id: settingsPanel
 
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.top: parent.top
-        model: root.model
-        objectName: "settingsPanel"
-        topInset: root.topInset
-        width: Math.max(280, Math.ceil(neededWidth))
+        width: Math.max(280, Math.ceil(implicitWidth))
+
+        Component.onCompleted: setSource("SettingsPanel.qml", {
+                "model": root.model,
+                "objectName": "settingsPanel",
+                "topInset": Qt.binding(() => root.topInset)
+            })
     }
 
     Rectangle {
@@ -53,21 +55,28 @@ FocusScope {
         objectName: "resultPanel"
     }
 
-    // Built when it is first needed, and kept from then on.
-    Instantiator {
+    // Read and built when it is first needed, and kept from then on.
+    Loader {
+        id: alert
+
         readonly property bool needed: root.model.errorPresented
 
-        active: false
+        onNeededChanged: {
+            if (needed && !item)
+                setSource("ErrorAlert.qml", {
+                        "message": Qt.binding(() => root.model.errorMessage),
+                        "objectName": "errorAlert",
+                        "parent": root,
+                        "visible": Qt.binding(() => root.model.errorPresented)
+                    });
+        }
+    }
 
-        ErrorAlert {
-            message: root.model.errorMessage
-            objectName: "errorAlert"
-            parent: root
-            visible: root.model.errorPresented
-
-            onDismissed: root.model.errorPresented = false
+    Connections {
+        function onDismissed() {
+            root.model.errorPresented = false;
         }
 
-        onNeededChanged: active = true
+        target: alert.item
     }
 }

@@ -31,12 +31,4 @@ T.Menu {
         interactive: false
         model: root.contentModel
     }
-
-    // Shows the menu with its right end below that of `button`, or hides it.
-    function toggle(button: Item) {
-        if (root.visible)
-            root.close();
-        else
-            root.popup(button, button.width - root.width, button.height + 4);
-    }
 }

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
 import Morvane.ViewModel
 import Morvane.Views
@@ -9,8 +8,8 @@ Rectangle {
     id: root
 
     required property GeneratorViewModel model
-    readonly property real neededHeight: topInset + controls.implicitHeight + controls.spacing + note.implicitHeight + 2 * padding
-    readonly property real neededWidth: pickerTitle.implicitWidth + 10 + picker.implicitWidth + 2 * padding
+    implicitHeight: topInset + controls.implicitHeight + controls.spacing + note.implicitHeight + 2 * padding
+    implicitWidth: pickerTitle.implicitWidth + 10 + picker.implicitWidth + 2 * padding
     readonly property real padding: 24
     // What covers the panel at the top.
     required property real topInset
@@ -80,21 +79,21 @@ Rectangle {
             width: controls.width
         }
 
-        // Built when it is first needed, and kept from then on: of a switch that is built while a
-        // screen reader listens, Qt never gives back everything.
-        Repeater {
+        // Read and built when they are first needed, and kept from then on: of a switch that is
+        // built while a screen reader listens, Qt never gives back everything.
+        Loader {
             readonly property bool needed: root.model.settings.mode === 1 // qmllint disable type
 
-            model: 0
+            visible: needed
+            width: controls.width
 
-            PhraseSettings {
-                spacing: controls.spacing
-                viewModel: root.model
-                visible: root.model.settings.mode === 1 // qmllint disable type
-                width: controls.width
+            onNeededChanged: {
+                if (needed && !item)
+                    setSource("PhraseSettings.qml", {
+                            "spacing": controls.spacing,
+                            "viewModel": root.model
+                        });
             }
-
-            onNeededChanged: model = 1
         }
     }
 

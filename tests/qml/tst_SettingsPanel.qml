@@ -53,8 +53,9 @@ TestCase {
         const column = control("settingsColumn");
         let found = [];
         for (const child of Array.from(column.children).filter(item => item.visible)) {
-            if (child instanceof PasswordSettings || child instanceof PhraseSettings)
-                found = found.concat(Array.from(child.children).filter(item => item.height > 0));
+            const settings = child instanceof Loader ? child.item : child;
+            if (settings instanceof PasswordSettings || settings instanceof PhraseSettings)
+                found = found.concat(Array.from(settings.children).filter(item => item.height > 0));
             else if (child.height > 0)
                 found.push(child);
         }
