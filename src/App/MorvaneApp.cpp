@@ -3,6 +3,7 @@
 
 #include "App/MorvaneApp.h"
 
+#include "App/WindowLoader.h"
 #include "Platform/Confinement.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/SystemMenu.h"
@@ -10,11 +11,10 @@
 #include "Views/ApplicationIcon.h"
 
 #include <QFont>
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHashFunctions>
 #include <QIcon>
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickWindow>
 
@@ -53,12 +53,6 @@ void leaveGlyphsUnhintedOnScaledDisplays(const QGuiApplication& application)
     QFont font = QGuiApplication::font();
     font.setHintingPreference(QFont::PreferNoHinting);
     QGuiApplication::setFont(font);
-}
-
-/// Makes Qt look for the fonts, which takes longer than all else before the first text is drawn.
-void readFontDatabase(const QFont& font)
-{
-    QFontMetricsF(font).height();
 }
 
 /// Ends the program where Qt would not let it: on X11 it waits up to five seconds for a clipboard
@@ -111,24 +105,22 @@ int MorvaneApp::run(int argc, char** argv) const
     // another machine.
     Platform::Confinement::closeSystem();
     leaveGlyphsUnhintedOnScaledDisplays(application);
-    // While the window is being loaded.
-    const std::future<void> fonts
-        = std::async(std::launch::async, readFontDatabase, QGuiApplication::font());
+    const WindowLoader loader;
 
-    QQmlApplicationEngine engine;
+    QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.setInitialProperties(
-        {{QStringLiteral("drawsFrame"), Platform::WindowChrome::isDrawnByProgram()}});
-    engine.load(QStringLiteral("qrc:/qt/qml/Morvane/App/MainWindow.qml"));
-    auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+    QObject::connect(&engine, &QQmlEngine::quit, &application, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+    const std::unique_ptr<QQuickWindow> window = loader.load(
+        engine, {{QStringLiteral("drawsFrame"), Platform::WindowChrome::isDrawnByProgram()}});
     if (!window)
         return EXIT_FAILURE;
     Platform::WindowChrome::hideTitleBar(*window);
-    Platform::SystemMenu::setAboutCommand(QStringLiteral("Über Morvane"), [window] {
+    Platform::SystemMenu::setAboutCommand(QStringLiteral("Über Morvane"), [window = window.get()] {
         QMetaObject::invokeMethod(window, "openWindow", Q_ARG(QString, QStringLiteral("about")));
     });
     // Nobody waits for it, and the first frame shall not either.
-    QObject::connect(window, &QQuickWindow::frameSwapped, window, setWindowIcon,
+    QObject::connect(window.get(), &QQuickWindow::frameSwapped, window.get(), setWindowIcon,
                      Qt::SingleShotConnection);
     window->show();
     const int status = QGuiApplication::exec();
