@@ -443,6 +443,7 @@ def main():
     parser.add_argument("bare")
     parser.add_argument("--rounds", type=int, default=15)
     parser.add_argument("--idle-seconds", type=float, default=30.0)
+    parser.add_argument("--starts-only", action="store_true", help="neither idle nor drag")
     options = parser.parse_args()
 
     programs = (options.program, options.bare)
@@ -452,6 +453,8 @@ def main():
             title = "With a session bus" if with_bus else "Without a session bus"
             print(f"{title}, {options.rounds} rounds", flush=True)
             print_rounds(*measured_rounds(programs, desktops, options.rounds))
+            if options.starts_only:
+                continue
             switches = measured_idling(programs, desktops, options.idle_seconds)
             print(
                 f"  context switches in {options.idle_seconds:.0f} s of idling: "
@@ -459,6 +462,8 @@ def main():
                 flush=True,
             )
 
+    if options.starts_only:
+        return
     with Desktop(False) as desktop:
         lags, rest = measured_drag(desktop, options.program)
     print("Dragging the length from 8 to 64, pixel by pixel, 125 moves a second")

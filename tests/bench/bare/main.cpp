@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// The yardstick for the program's window: the least that a window of Qt Quick on the same renderer
-// can be.
+// The yardsticks for the program's window: the least that a window of Qt Quick on the same renderer
+// can be, and the least with the control templates and the fonts.
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
@@ -17,7 +17,7 @@ int main(int argc, char** argv)
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.load(QStringLiteral("qrc:/qt/qml/BareWindow/Main.qml"));
+    engine.load(QStringLiteral("qrc:/qt/qml/yardstick/" YARDSTICK "/Main.qml"));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
     return QGuiApplication::exec();
