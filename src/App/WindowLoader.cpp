@@ -43,6 +43,7 @@ void drawLetters()
     TextStyles styles;
     styles.setScale(Appearance::textScale());
     QImage unseen(1, 1, QImage::Format_RGB32);
+    unseen.setDevicePixelRatio(qGuiApp->devicePixelRatio());
     for (const QFont& font : {styles.body(), styles.headline(), styles.caption(), styles.rating(),
                               styles.title2(), styles.row(), styles.value(), styles.longValue()}) {
         QPainter painter(&unseen);
