@@ -3,6 +3,7 @@
 
 """The window's own frame under an X11 window manager: buttons, edges, strip and menu."""
 
+import contextlib
 import ctypes
 import itertools
 import pathlib
@@ -56,6 +57,15 @@ def cursor_outline():
     return [row[left:right] for row in rows]
 
 
+@contextlib.contextmanager
+def button_held():
+    subprocess.run(["xdotool", "mousedown", "1"], check=True)
+    try:
+        yield
+    finally:
+        subprocess.run(["xdotool", "mouseup", "1"], check=True)
+
+
 def pasted(target="UTF8_STRING"):
     return output("timeout", "2", "xclip", "-o", "-selection", "clipboard", "-t", target)
 
@@ -72,6 +82,14 @@ class Frame(unittest.TestCase):
         self.window = self.program.window()
         subprocess.run(["xdotool", "windowmove", "--sync", self.window, "300", "200"], check=True)
         until(lambda: self.place()[:2] == (300, 200), "the window at its place")
+        self.point_at_ground()
+        self.usual_pointer = cursor_outline()
+        point(0, 0)
+
+    def point_at_ground(self):
+        """Where the settings have their margin."""
+        left, top = self.place()[:2]
+        point(left + 12, top + 300)
 
     def place(self):
         """Left, top, width and height on the screen."""
@@ -96,11 +114,26 @@ class Frame(unittest.TestCase):
             return self.place() != before
 
         point(*start)
-        subprocess.run(["xdotool", "mousedown", "1"], check=True)
-        until(follows, "a window that follows the pointer")
-        point(*end)
-        until(lambda: there(self.place()), f"a window dragged to {end}")
-        subprocess.run(["xdotool", "mouseup", "1"], check=True)
+        with button_held():
+            until(follows, "a window that follows the pointer")
+            point(*end)
+            until(lambda: there(self.place()), f"a window dragged to {end}")
+
+    def resize(self, start, end, expected):
+        """Takes hold of an edge at one point of the screen and lets it go at another.
+
+        The edge keeps the distance to the pointer that it has when the program asks the window
+        manager to resize, so the pointer stays until that one shows its own.
+        """
+        self.point_at_ground()
+        until(lambda: cursor_outline() == self.usual_pointer, "the usual pointer")
+        point(*start)
+        until(lambda: cursor_outline() != self.usual_pointer, "a pointer that tells of resizing")
+        pointers = (self.usual_pointer, cursor_outline())
+        with button_held():
+            until(lambda: cursor_outline() not in pointers, "the window manager's pointer")
+            point(*end)
+            until(lambda: self.place() == expected, f"{expected} after {end}")
 
     def assert_secret(self):
         """What is copied is plain text, with the mark of a secret."""
@@ -141,12 +174,12 @@ class Frame(unittest.TestCase):
                 )
                 expected = tuple(a + b for a, b in zip(before, change))
                 end = (start[0] + by[0], start[1] + by[1])
-                self.drag(start, end, lambda place: place == expected)
+                self.resize(start, end, expected)
 
     def test_no_edge_makes_it_smaller_than_its_content(self):
         left, top, width, height = self.place()
         start = (left + width - 1, top + height - 1)
-        self.drag(start, (left + 200, top + 200), lambda place: place[2:] == (760, 610))
+        self.resize(start, (left + 200, top + 200), (left, top, 760, 610))
 
     def test_edges_and_corners_show_where_they_lead(self):
         left, top, width, height = self.place()
