@@ -198,8 +198,7 @@ def cleared(session):
         if time.monotonic() > end:
             raise AssertionError("the clipboard is not emptied")
         time.sleep(0.1)
-        now = time.monotonic()
-        seen = [] if session.text() else [*seen, now]
+        seen = [] if session.text() else [*seen, time.monotonic()]
     return seen[0]
 
 
