@@ -10,9 +10,7 @@
 #include <QEventLoop>
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QImage>
 #include <QLibraryInfo>
-#include <QPainter>
 #include <QPluginLoader>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -22,7 +20,9 @@
 
 namespace {
 
-void readFontDatabase(const QFont& font)
+/// Has Qt look for the font and read its file, and for the first font of all, for every font that
+/// there is.
+void loadFont(const QFont& font)
 {
     QFontMetricsF(font).height();
 }
@@ -36,19 +36,13 @@ void loadControlTemplates()
         .load();
 }
 
-/// Draws where nobody sees it, so that the fonts and most of the letters of the first frame are
-/// there when it is drawn.
-void drawLetters()
+void loadFontsOfFirstFrame()
 {
     TextStyles styles;
     styles.setScale(Appearance::textScale());
-    QImage unseen(1, 1, QImage::Format_RGB32);
-    unseen.setDevicePixelRatio(qGuiApp->devicePixelRatio());
     for (const QFont& font : {styles.body(), styles.headline(), styles.caption(), styles.rating(),
                               styles.title2(), styles.row(), styles.value(), styles.longValue()}) {
-        QPainter painter(&unseen);
-        painter.setFont(font);
-        painter.drawText(0, 0, QStringLiteral("abcdefghiklmnoprstuvwzäößABDEGKLMNPSZ0123456789."));
+        loadFont(font);
         // The thread that reads the types now and then waits for this one.
         QCoreApplication::sendPostedEvents();
     }
@@ -66,7 +60,7 @@ void waitFor(const QQmlComponent& component)
 } // namespace
 
 WindowLoader::WindowLoader()
-    : m_fontDatabase(std::async(std::launch::async, readFontDatabase, QGuiApplication::font()))
+    : m_fontDatabase(std::async(std::launch::async, loadFont, QGuiApplication::font()))
 {
 }
 
@@ -83,7 +77,7 @@ std::unique_ptr<QQuickWindow> WindowLoader::load(QQmlEngine& engine,
 
     loadControlTemplates();
     m_fontDatabase.wait();
-    drawLetters();
+    loadFontsOfFirstFrame();
     waitFor(window);
 
     std::unique_ptr<QObject> object;
