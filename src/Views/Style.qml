@@ -4,8 +4,7 @@ pragma Singleton
 import QtQuick
 import Morvane.Views
 
-// The look in one place: text sizes in pixels, lengths that several controls share, and the colours
-// of both schemes.
+// The look in one place: the fonts, the colours of both schemes, and how long transitions take.
 QtObject {
     id: style
 
