@@ -278,7 +278,7 @@ def key(*keys):
 
 def point(x, y):
     """Moves the real pointer there."""
-    subprocess.run(["xdotool", "mousemove", "--sync", str(x), str(y)], check=True)
+    subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
 
 
 def everything(accessible):
