@@ -95,7 +95,7 @@ int MorvaneApp::run(int argc, char** argv) const
 
     // Faster to the first frame and smaller than OpenGL, which also writes shader caches.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    // On Wayland, Qt starts a driver all the same, which would make the folder for its cache.
+    // On Wayland, Qt 6.4 starts a driver all the same, which would make the folder for its cache.
     qputenv("MESA_SHADER_CACHE_DISABLE", "true");
 
     const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);

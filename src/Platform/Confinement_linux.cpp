@@ -77,8 +77,8 @@ struct OpenPath
 };
 
 constexpr std::array<OpenPath, 2> openPaths{{
-    // On Wayland, Qt starts a graphics driver whether it draws with it or not, and Mesa's complain
-    // on standard error where they may not open their device.
+    // On Wayland, Qt 6.4 starts a graphics driver whether it draws with it or not, and Mesa's
+    // complain on standard error where they may not open their device.
     {"/dev/dri", LANDLOCK_ACCESS_FS_WRITE_FILE},
     // Where libraries leave what nobody wants.
     {"/dev/null", LANDLOCK_ACCESS_FS_WRITE_FILE},
@@ -167,7 +167,9 @@ void refuseOtherSockets(scmp_filter_ctx filter)
 
 void closeFiles() noexcept
 {
-    const landlock_ruleset_attr changes{changesKnownToKernel()};
+    // The kernel headers have more members since 6.7, and these stay zero.
+    landlock_ruleset_attr changes{};
+    changes.handled_access_fs = changesKnownToKernel();
     if (changes.handled_access_fs == 0)
         return;
     const Descriptor ruleset(createRuleset(&changes, sizeof(changes), 0));
@@ -175,8 +177,12 @@ void closeFiles() noexcept
         return;
     for (const OpenPath& open : openPaths) {
         const Descriptor place = openedAsPlace(open.path);
-        if (place.isOpen()) // What is not there needs no permission.
-            addRule(ruleset, {open.access & changes.handled_access_fs, place.number()});
+        if (!place.isOpen()) // What is not there needs no permission.
+            continue;
+        landlock_path_beneath_attr rule{};
+        rule.allowed_access = open.access & changes.handled_access_fs;
+        rule.parent_fd = place.number();
+        addRule(ruleset, rule);
     }
     restrictSelf(ruleset);
 }
