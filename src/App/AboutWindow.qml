@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Morvane.App
 import Morvane.Views
 
 Window {
@@ -17,6 +18,12 @@ Window {
     title: "Über Morvane"
     width: content.implicitWidth
 
+    WindowState {
+        id: windowState
+
+        window: root
+    }
+
     AboutView {
         id: content
 
@@ -24,12 +31,14 @@ Window {
     }
 
     Shortcut {
+        enabled: windowState.focused
         sequences: ["Escape", "Ctrl+W"]
 
         onActivated: root.close()
     }
 
     Shortcut {
+        enabled: windowState.focused
         sequence: "Ctrl+Q"
 
         onActivated: Qt.quit()

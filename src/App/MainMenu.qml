@@ -8,6 +8,7 @@ import Morvane.Views
 PopupMenu {
     id: root
 
+    required property bool areShortcutsEnabled
     // The field that had the keyboard last; if none had, text is selected in and copied from the
     // value.
     required property TextInput field
@@ -25,9 +26,11 @@ PopupMenu {
     }
 
     MenuCommand {
+        isShortcutEnabled: root.areShortcutsEnabled
+        shortcut: "Ctrl+C"
+
         action: T.Action {
             enabled: root.selectedText !== ""
-            shortcut: "Ctrl+C"
             text: "Kopieren"
 
             onTriggered: root.field ? root.field.copy() : root.value.copy()
@@ -35,8 +38,10 @@ PopupMenu {
     }
 
     MenuCommand {
+        isShortcutEnabled: root.areShortcutsEnabled
+        shortcut: "Ctrl+A"
+
         action: T.Action {
-            shortcut: "Ctrl+A"
             text: "Alles auswählen"
 
             onTriggered: root.field ? root.field.selectAll() : root.value.selectAll()
@@ -47,8 +52,10 @@ PopupMenu {
     }
 
     MenuCommand {
+        isShortcutEnabled: root.areShortcutsEnabled
+        shortcut: "Ctrl+M"
+
         action: T.Action {
-            shortcut: "Ctrl+M"
             text: "Fenster minimieren"
 
             onTriggered: root.window.showMinimized()
@@ -56,8 +63,10 @@ PopupMenu {
     }
 
     MenuCommand {
+        isShortcutEnabled: root.areShortcutsEnabled
+        shortcut: "Ctrl+W"
+
         action: T.Action {
-            shortcut: "Ctrl+W"
             text: "Fenster schließen"
 
             onTriggered: root.window.close()
@@ -68,8 +77,10 @@ PopupMenu {
     }
 
     MenuCommand {
+        isShortcutEnabled: root.areShortcutsEnabled
+        shortcut: "Ctrl+Q"
+
         action: T.Action {
-            shortcut: "Ctrl+Q"
             text: "Morvane beenden"
 
             onTriggered: Qt.quit()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Morvane.App
 import Morvane.Views
 
 Window {
@@ -22,10 +23,17 @@ Window {
             frame.field = null;
     }
 
+    WindowState {
+        id: windowState
+
+        window: root
+    }
+
     ContentView {
         id: content
 
         anchors.fill: parent
+        areShortcutsEnabled: windowState.focused
         focus: true
         topInset: root.drawsFrame ? 0 : 28
     }
@@ -37,6 +45,7 @@ Window {
         value: content.value
         visible: root.drawsFrame
         window: root
+        windowState: windowState
 
         onOpenWindow: identifier => root.openWindow(identifier)
     }

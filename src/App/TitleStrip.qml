@@ -8,6 +8,7 @@ import Morvane.Views
 Item {
     id: root
 
+    required property bool areShortcutsEnabled
     required property bool maximized
     required property Window window
 
@@ -89,6 +90,7 @@ Item {
     }
 
     Shortcut {
+        enabled: root.areShortcutsEnabled
         sequence: "F10"
 
         onActivated: root.menuToggled(menuButton)

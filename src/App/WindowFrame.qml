@@ -15,20 +15,16 @@ Item {
     property Item menuButton
     required property ValueText value
     required property Window window
+    required property WindowState windowState
 
     signal openWindow(string identifier)
-
-    WindowState {
-        id: windowState
-
-        window: root.window
-    }
 
     TitleStrip {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        maximized: windowState.filling
+        areShortcutsEnabled: root.windowState.focused
+        maximized: root.windowState.filling
         window: root.window
 
         onMenuToggled: button => {
@@ -41,14 +37,14 @@ Item {
 
     ResizeBorder {
         anchors.fill: parent
-        visible: windowState.windowed
+        visible: root.windowState.windowed
     }
 
     Rectangle {
         anchors.fill: parent
         border.color: Style.divider
         color: "transparent"
-        visible: windowState.windowed
+        visible: root.windowState.windowed
     }
 
     // Nobody waits for the menu, and the first frame shall not either.
@@ -67,6 +63,7 @@ Item {
         function onFrameSwapped() {
             enabled = false;
             menu.setSource("MainMenu.qml", {
+                    "areShortcutsEnabled": Qt.binding(() => root.windowState.focused),
                     "field": Qt.binding(() => root.field),
                     "parent": root,
                     "value": root.value,

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QGuiApplication>
 #include <QObject>
 #include <QPointer>
 #include <QWindow>
@@ -20,9 +21,17 @@ class WindowState : public QObject
     Q_PROPERTY(bool filling READ filling NOTIFY changed FINAL)
     /// Whether it has edges of its own: neither filling nor minimised nor hidden.
     Q_PROPERTY(bool windowed READ windowed NOTIFY changed FINAL)
+    /// Whether it receives the keys. Since Qt 6.8, a shortcut of a window also matches while one of
+    /// its transient windows receives them, and the other way round; `Window.active` is true for
+    /// the transient windows' sake even before.
+    Q_PROPERTY(bool focused READ focused NOTIFY changed FINAL)
 
 public:
-    using QObject::QObject;
+    explicit WindowState(QObject* parent = nullptr)
+        : QObject(parent)
+    {
+        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &WindowState::changed);
+    }
 
     [[nodiscard]] QWindow* window() const { return m_window; }
     void setWindow(QWindow* window)
@@ -44,6 +53,10 @@ public:
     [[nodiscard]] bool windowed() const
     {
         return m_window && m_window->visibility() == QWindow::Windowed;
+    }
+    [[nodiscard]] bool focused() const
+    {
+        return m_window && m_window == QGuiApplication::focusWindow();
     }
 
 Q_SIGNALS:

@@ -8,6 +8,7 @@ import Morvane.ViewModel
 FocusScope {
     id: root
 
+    property bool areShortcutsEnabled: true
     // The smallest size at which all is readable.
     readonly property real minimumHeight: Math.max(610, Math.ceil(settingsPanel.implicitHeight), Math.ceil(resultPanel.neededHeight))
     readonly property real minimumWidth: Math.max(760, Math.ceil(settingsPanel.width + divider.width + resultPanel.neededWidth))
@@ -51,6 +52,7 @@ FocusScope {
         anchors.left: divider.right
         anchors.right: parent.right
         anchors.top: parent.top
+        areShortcutsEnabled: root.areShortcutsEnabled
         model: root.model
         objectName: "resultPanel"
     }

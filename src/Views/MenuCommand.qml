@@ -8,8 +8,11 @@ T.MenuItem {
     id: root
 
     readonly property color foreground: highlighted ? Style.accentText : Style.text
+    // Whether the shortcut triggers the action. The menu shows the shortcut in any case.
+    property bool isShortcutEnabled: true
     // The names of keys on a German keyboard.
-    readonly property string keys: String(action.shortcut ?? "").replace("Ctrl", "Strg").replace("Shift", "Umschalt")
+    readonly property string keys: shortcut.replace("Ctrl", "Strg").replace("Shift", "Umschalt")
+    property string shortcut
 
     font: Style.fonts.body
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -47,5 +50,11 @@ T.MenuItem {
         opacity: root.enabled ? 1 : 0.4
         text: root.keys
         textFormat: Text.PlainText
+    }
+
+    Binding {
+        property: "shortcut"
+        target: root.action
+        value: root.isShortcutEnabled ? root.shortcut : ""
     }
 }

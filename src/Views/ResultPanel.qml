@@ -7,6 +7,7 @@ import Morvane.Views
 Rectangle {
     id: root
 
+    property bool areShortcutsEnabled: true
     required property GeneratorViewModel model
     readonly property alias value: value
 
@@ -123,12 +124,14 @@ Rectangle {
     }
 
     Shortcut {
+        enabled: root.areShortcutsEnabled
         sequence: "Ctrl+R"
 
         onActivated: root.model.generate()
     }
 
     Shortcut {
+        enabled: root.areShortcutsEnabled
         sequence: "Ctrl+Shift+C"
 
         onActivated: root.model.copyToClipboard()

@@ -389,24 +389,24 @@ TestCase {
 
         MenuCommand {
             action: commandAction
+            shortcut: "Ctrl+1"
         }
 
         MenuCommand {
             action: otherAction
+            shortcut: "Ctrl+2"
         }
     }
 
     T.Action {
         id: commandAction
 
-        shortcut: "Ctrl+1"
         text: "Erster Befehl"
     }
 
     T.Action {
         id: otherAction
 
-        shortcut: "Ctrl+2"
         text: "Zweiter Befehl"
     }
 }

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+import QtTest
+import Morvane.Views
+
+TestCase {
+    id: testCase
+
+    height: 400
+    name: "MenuCommand"
+    visible: true
+    when: windowShown
+    width: 400
+
+    function init() {
+        command.isShortcutEnabled = true;
+        commandAction.enabled = true;
+        triggered.clear();
+    }
+
+    // The text of `name` below `item`, or null.
+    function shownText(item: Item, name: string): Text {
+        if (item instanceof Text && item.visible && item.text === name)
+            return item as Text;
+        for (const child of Array.from(item.children)) {
+            const found = shownText(child, name);
+            if (found)
+                return found;
+        }
+        return null;
+    }
+
+    function test_theShortcutTriggersTheActionOfAClosedMenu() {
+        keySequence("Ctrl+1");
+        compare(triggered.count, 1);
+    }
+
+    function test_aDisabledShortcutTriggersNothingAndLooksTheSame() {
+        menu.open();
+        tryVerify(() => menu.opened);
+        const keys = shownText(menu.contentItem, "Strg+1");
+        verify(keys);
+        const opacity = keys.opacity;
+        const width = command.implicitWidth;
+        command.isShortcutEnabled = false;
+        compare(keys.text, "Strg+1");
+        compare(keys.opacity, opacity);
+        compare(command.implicitWidth, width);
+        verify(command.enabled);
+        menu.close();
+        tryVerify(() => !menu.visible);
+        keySequence("Ctrl+1");
+        compare(triggered.count, 0);
+        command.isShortcutEnabled = true;
+        keySequence("Ctrl+1");
+        compare(triggered.count, 1);
+    }
+
+    function test_theShortcutOfADisabledActionTriggersNothing() {
+        commandAction.enabled = false;
+        keySequence("Ctrl+1");
+        compare(triggered.count, 0);
+    }
+
+    PopupMenu {
+        id: menu
+
+        MenuCommand {
+            id: command
+
+            shortcut: "Ctrl+1"
+
+            action: T.Action {
+                id: commandAction
+
+                text: "Befehl"
+            }
+        }
+    }
+
+    SignalSpy {
+        id: triggered
+
+        signalName: "triggered"
+        target: commandAction
+    }
+}
