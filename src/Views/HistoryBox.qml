@@ -39,10 +39,10 @@ Rectangle {
             HistoryRow {
                 required property int index
                 objectName: "historyRow" + index
-                text: root.history[index] ?? ""
+                secret: root.history[index] ?? ""
                 width: rows.width
 
-                onClicked: root.chosen(text)
+                onClicked: root.chosen(secret)
             }
         }
     }

@@ -8,6 +8,9 @@ import QtQuick.Templates as T
 T.Button {
     id: root
 
+    // Not the text of the button, in which an ampersand makes the next character a shortcut.
+    required property string secret
+
     font: Style.fonts.row
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -16,6 +19,7 @@ T.Button {
     rightPadding: 0
 
     Accessible.description: "Holt diesen Wert zurück in die Anzeige."
+    Accessible.name: secret
 
     Accessible.onPressAction: root.clicked()
 
@@ -48,7 +52,7 @@ T.Button {
         maximumLineCount: 1
         objectName: "secret"
         rightPadding: arrow.width + 8
-        text: root.text
+        text: root.secret
         textFormat: Text.PlainText
     }
 

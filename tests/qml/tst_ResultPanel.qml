@@ -17,7 +17,7 @@ TestCase {
     function rows(): list<string> {
         const texts = [];
         for (let i = 0; findChild(content, "historyRow" + i); ++i)
-            texts.push(shown("historyRow" + i));
+            texts.push(findChild(findChild(content, "historyRow" + i), "secret").text);
         return texts;
     }
 
@@ -291,8 +291,10 @@ TestCase {
         compare(children[5].objectName, "history");
         for (let i = 1; i < children.length; ++i)
             compare(children[i].y, children[i - 1].y + children[i - 1].height + 22);
+        // Anchors centre on whole pixels: Qt 6.4 rounds the middle of the column, Qt 6.8 the place
+        // of the child as well.
         for (const child of children)
-            fuzzyCompare(child.x + child.width / 2, column.width / 2, 0.51);
+            verify(Math.abs(child.x + child.width / 2 - column.width / 2) < 1, child.objectName);
         compare(column.width, panel.width - 60);
         fuzzyCompare(column.y + column.height / 2, panel.height / 2, 0.51);
     }
@@ -339,6 +341,18 @@ TestCase {
         compare(shown("value"), before[2]);
         compare(rows(), before);
         compare(generations.count, 1);
+    }
+
+    function test_anAmpersandInAHistoryRowMakesNoShortcut() {
+        content.model.settings.mode = 1;
+        content.model.settings.separator = "&";
+        const letter = secret => secret.split("&")[1][0];
+        do
+            content.model.generate();
+        while (letter(rows()[0]) === letter(rows()[1]))
+        const newest = shown("value");
+        keySequence("Alt+" + letter(rows()[1]));
+        compare(shown("value"), newest);
     }
 
     function test_historyBoxIsAtMost430Wide() {
