@@ -14,7 +14,7 @@ void SystemAppearance::observe(QObject* /*observer*/,
 {
     const bool reducedMotion = [NSWorkspace sharedWorkspace].accessibilityDisplayShouldReduceMotion;
     if (reducedMotion)
-        changed({.reducedMotion = true});
+        changed({.dark = std::nullopt, .reducedMotion = true});
     ProcessMemory::hide();
 }
 

@@ -206,9 +206,7 @@ void intrude()
     tell("main");
 
     ::sem_init(&done, 0, 0);
-    struct sigaction action
-    {
-    };
+    struct sigaction action{};
     action.sa_handler = attemptAllHere; // NOLINT(cppcoreguidelines-pro-type-union-access)
     action.sa_flags = SA_RESTART;
     ::sigaction(SIGUSR2, &action, nullptr);

@@ -6,7 +6,7 @@
 import re
 import unittest
 
-from desktop import ARTIFACTS, Desktop, Program, everything, key, output, until
+from desktop import ARTIFACTS, Desktop, Program, everything, key, output, role_name, until
 
 TITLE = "Über Morvane"
 
@@ -55,10 +55,10 @@ class About(unittest.TestCase):
     def test_says_what_it_has_to(self):
         window = self.open_by_keyboard()
         root = self.program.find(
-            lambda a: a.name == TITLE and a.getRoleName() in ("dialog", "frame", "window"),
+            lambda a: a.name == TITLE and role_name(a) in ("dialog", "frame", "window"),
             "the About window",
         )
-        texts = [a.name for a in everything(root) if a.getRoleName() in ("label", "heading")]
+        texts = [a.name for a in everything(root) if role_name(a) in ("label", "heading")]
         self.assertEqual(
             texts,
             [
@@ -112,6 +112,60 @@ class About(unittest.TestCase):
         key("Escape")
         until(lambda: not self.about_windows(), "no About window")
         self.assertEqual((self.program.value(), self.program.history()), (value, history))
+
+    def test_the_keys_of_the_main_window_do_nothing_in_it(self):
+        value, history = self.program.value(), self.program.history()
+        self.open_by_keyboard()
+        key("ctrl+r", "ctrl+a", "ctrl+c", "ctrl+shift+c", "F10", "ctrl+m")
+        # Once this one has been dealt with, so have the others.
+        key("ctrl+w")
+        until(lambda: not self.about_windows(), "no About window")
+        until(lambda: self.active() == self.main_window, "the main window in front")
+        self.assertEqual((self.program.value(), self.program.history()), (value, history))
+        names = {a.name for a in everything(self.program.accessible())}
+        self.assertFalse(names & {"Kopiert", "Morvane beenden"})
+        self.assertEqual(output("xclip", "-o", "-selection", "clipboard"), "")
+        self.assertEqual(output("xclip", "-o", "-selection", "primary"), "")
+        # They are the main window's again.
+        key("ctrl+r")
+        until(lambda: self.program.value() != value, "another secret")
+        key("ctrl+q")
+        self.assertEqual(self.program.ended(), (0, ""))
+
+    def test_leaves_the_main_window_its_keys(self):
+        self.open_by_keyboard()
+        output("xdotool", "windowactivate", "--sync", self.main_window)
+        until(lambda: self.active() == self.main_window, "the main window in front")
+        value = self.program.value()
+        key("ctrl+a", "ctrl+c")
+        until(
+            lambda: output("timeout", "2", "xclip", "-o", "-selection", "clipboard") == value,
+            "the value on the clipboard",
+        )
+        key("ctrl+w")
+        self.assertEqual(self.program.ended(), (0, ""))
+
+    def test_the_menu_looks_usable_while_it_is_in_front(self):
+        import pyatspi
+
+        def commands():
+            return {
+                (a.name, a.getState().contains(pyatspi.STATE_ENABLED))
+                for a in everything(self.program.accessible())
+                if role_name(a) == "menu item"
+            }
+
+        window = self.open_by_keyboard()
+        output("xdotool", "windowactivate", "--sync", self.main_window)
+        until(lambda: self.active() == self.main_window, "the main window in front")
+        self.open_menu()
+        before = commands()
+        self.assertIn(("Fenster schließen", True), before)
+        output("xdotool", "windowactivate", "--sync", window)
+        until(lambda: self.active() == window, "the About window in front")
+        self.assertEqual(commands(), before)
+        self.program.press("Fenster schließen")
+        self.assertEqual(self.program.ended(), (0, ""))
 
     def test_quits_with_the_program(self):
         self.open_by_keyboard()

@@ -14,7 +14,7 @@ import subprocess
 import time
 import unittest
 
-from desktop import DEADLINE, Desktop, Program, first, key, output, until
+from desktop import DEADLINE, Desktop, Program, first, key, output, role_name, until
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
 
 STAYS = 30.0
@@ -321,7 +321,7 @@ class Copying(unittest.TestCase):
 
     def button(self, program, name):
         return first(
-            program.accessible(), lambda a: a.name == name and a.getRoleName() == "push button"
+            program.accessible(), lambda a: a.name == name and role_name(a) == "button"
         )
 
     def active(self, program):
@@ -332,7 +332,7 @@ class Copying(unittest.TestCase):
         with Program(self.desktop) as program:
             value = program.value()
             start = time.monotonic()
-            program.click("Kopieren", "push button")
+            program.click("Kopieren", "button")
             until(lambda: self.button(program, "Kopiert"), "the confirmation")
             self.assertEqual(self.clipboard(), value)
             until(lambda: self.button(program, "Kopieren"), "the button as it was")
@@ -342,13 +342,18 @@ class Copying(unittest.TestCase):
         with Program(self.desktop) as program:
             program.find(lambda a: a.name == "Kopieren", "the window")
             self.active(program)
-            key("ctrl+shift+c")
-            until(lambda: self.button(program, "Kopiert"), "the confirmation")
-            time.sleep(CONFIRMED / 2)
-            second = time.monotonic()
-            key("ctrl+shift+c")
-            until(lambda: self.button(program, "Kopieren"), "the button as it was")
-            self.assertLess(time.monotonic() - second, CONFIRMED)
+
+            def confirmed_no_longer():
+                key("ctrl+shift+c")
+                until(lambda: self.button(program, "Kopiert"), "the confirmation")
+                time.sleep(CONFIRMED / 2)
+                second = time.monotonic()
+                key("ctrl+shift+c")
+                until(lambda: self.button(program, "Kopieren"), "the button as it was")
+                return time.monotonic() - second < CONFIRMED
+
+            # A busy machine can see the end of a confirmation too late, but never too early.
+            until(confirmed_no_longer, "the end of a confirmation with that of the first copy")
 
     def test_a_value_that_there_is_not_is_not_copied(self):
         subprocess.run(

@@ -13,7 +13,7 @@ import shutil
 import tempfile
 import unittest
 
-from desktop import PROGRAM, Desktop, Program, key, until
+from desktop import PROGRAM, Desktop, Program, key, qt_version, until
 
 INTRUDER = os.environ["MORVANE_INTRUDER"]
 OLD_KERNEL = os.environ["MORVANE_OLD_KERNEL"]
@@ -122,7 +122,10 @@ class Confinement(unittest.TestCase):
             return {str(path.relative_to(folder)) for path in set(folder.rglob("*")) - before}
 
     def test_libraries_store_nothing_either(self):
-        expected = {"cache", f"temporary/runtime-{pwd.getpwuid(os.geteuid()).pw_name}"}
+        expected = {"cache"}
+        # Qt 6.4 makes a runtime folder where there is none, Qt 6.8 does not.
+        if qt_version() < (6, 8):
+            expected.add(f"temporary/runtime-{pwd.getpwuid(os.geteuid()).pw_name}")
         self.assertLessEqual(expected, self.stored_by_libraries(UNCONFINED))
         self.assertEqual(self.stored_by_libraries(PROGRAM), set())
 

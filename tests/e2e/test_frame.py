@@ -11,7 +11,7 @@ import re
 import subprocess
 import unittest
 
-from desktop import Desktop, Program, everything, first, key, output, point, until
+from desktop import Desktop, Program, everything, first, key, output, point, role_name, until
 
 DESKTOP_ENTRY = pathlib.Path(__file__).parents[2] / "packaging/de.morvane.Morvane.desktop"
 
@@ -258,7 +258,7 @@ class Frame(unittest.TestCase):
         names = [
             a.name
             for a in everything(self.program.accessible())
-            if a.getRoleName() == "menu item"
+            if role_name(a) == "menu item"
         ]
         self.assertEqual(
             names,

@@ -8,7 +8,7 @@ import re
 import subprocess
 import unittest
 
-from desktop import Desktop, Program, first, output, until
+from desktop import Desktop, Program, first, output, role_name, until
 
 FAILING_RANDOM = os.environ["MORVANE_FAILING_RANDOM"]
 
@@ -17,7 +17,7 @@ LOOK_ALIKES = "Il1O0o"
 
 def is_password(accessible):
     # Some controls are named with as many letters.
-    return accessible.getRoleName() == "label" and re.fullmatch(
+    return role_name(accessible) == "label" and re.fullmatch(
         r"[A-Za-z0-9!@#$%&*+\-=?_~]{10}", accessible.name
     )
 
@@ -62,7 +62,7 @@ class MainWindow(unittest.TestCase):
             )
             value.currentValue = 30
             program.find(
-                lambda a: a.getRoleName() == "label" and re.fullmatch(r"\S{30}", a.name),
+                lambda a: role_name(a) == "label" and re.fullmatch(r"\S{30}", a.name),
                 "a password of thirty characters",
             )
 

@@ -9,7 +9,17 @@ import re
 import unittest
 from unittest import mock
 
-from desktop import ARTIFACTS, DEADLINE, Desktop, Program, everything, first, output, until
+from desktop import (
+    ARTIFACTS,
+    DEADLINE,
+    Desktop,
+    Program,
+    everything,
+    first,
+    output,
+    role_name,
+    until,
+)
 from systemcalls import offences, read, read_files, tracing
 
 PROGRAMS = {
@@ -56,7 +66,7 @@ class Session:
         until(lambda: self.program.history() != before, "another secret")
 
     def generate_and_copy(self):
-        self.program.click("Kopieren", "push button")
+        self.program.click("Kopieren", "button")
         until(lambda: self.clipboard() == self.program.value(), "the secret on the clipboard")
         self.generate(lambda: self.program.click("Neu erzeugen"))
         self.generate(lambda: self.program.key("ctrl+r"))
@@ -79,7 +89,7 @@ class Session:
 
     def take_back(self):
         row = self.program.history()[2]
-        self.program.click(row, "push button")
+        self.program.click(row, "button")
         until(lambda: self.program.value() == row, "the third secret on show")
 
     def set_passphrases(self):
@@ -97,7 +107,7 @@ class Session:
         self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
         self.program.key("Down", "Return")
         about = self.program.find(
-            lambda a: a.name == ABOUT and a.getRoleName() in ("dialog", "frame", "window"),
+            lambda a: a.name == ABOUT and role_name(a) in ("dialog", "frame", "window"),
             "the About window",
         )
         until(lambda: everything(about), "what the About window says")

@@ -11,7 +11,7 @@ import struct
 import subprocess
 import time
 
-from desktop import ARTIFACTS, Desktop, Program, output, until
+from desktop import ARTIFACTS, Desktop, Program, output, role_name, until
 
 APPLICATION = "de.morvane.Morvane"
 
@@ -195,7 +195,7 @@ class WaylandProgram(Program):
         self.desktop.focus(self.window())
         # A shortcut that comes earlier finds no active window and is lost.
         self.find(
-            lambda a: a.getRoleName() == "frame" and a.getState().contains(pyatspi.STATE_ACTIVE),
+            lambda a: role_name(a) == "frame" and a.getState().contains(pyatspi.STATE_ACTIVE),
             "an active window",
         )
 

@@ -289,6 +289,9 @@ TestCase {
         generations.clear();
         const toggle = control(data.tag);
         const before = content.model.settings[data.tag];
+        // The other mode's controls have their place once the column has been laid out.
+        if (isPolishScheduled(toggle.parent))
+            verify(waitForItemPolished(toggle.parent));
         compare(toggle.text, data.label);
         compare(toggle.checked, before);
         mouseClick(toggle);

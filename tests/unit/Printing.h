@@ -47,10 +47,7 @@ inline void PrintTo(const GeneratorSettings& settings, std::ostream* out)
 /// A row of a table test, which goes by its name. Only found for the types of a namespace that says
 /// `using ::PrintTo;`.
 template<typename Row>
-requires requires(const Row& row)
-{
-    row.name;
-}
+    requires requires(const Row& row) { row.name; }
 void PrintTo(const Row& row, std::ostream* out)
 {
     *out << row.name;

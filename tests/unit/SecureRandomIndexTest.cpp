@@ -206,11 +206,8 @@ TEST(SecurePick, TakesTheElementAtTheDrawnIndex)
 TEST(SecurePick, PassesAFailureOn)
 {
     const ScriptedRandom random({}, FailsWith{-3});
-    EXPECT_THAT(
-        [] {
-            return SecureGeneratorAccess::pick(std::array{7, 8});
-        },
-        Throws<GeneratorError>(Eq(GeneratorError::randomFailure(-3))));
+    EXPECT_THAT([] { return SecureGeneratorAccess::pick(std::array{7, 8}); },
+                Throws<GeneratorError>(Eq(GeneratorError::randomFailure(-3))));
 }
 
 TEST(SecurePickDeathTest, StopsTheProgramOnAnEmptyList)
