@@ -28,7 +28,7 @@ namespace {
 
 [[noreturn]] void stop(const char* file = __builtin_FILE(), int line = __builtin_LINE())
 {
-    std::cerr << "Fatal error: " << file << ':' << line << std::endl;
+    std::cerr << "Fatal error: " << file << ':' << line << '\n';
     std::abort();
 }
 

@@ -57,6 +57,7 @@ protected:
             event->ignore();
             return true;
         case QEvent::KeyPress:
+            // NOLINTNEXTLINE(*-static-cast-downcast): the event's type tells its class
             if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
                 break;
             copy();

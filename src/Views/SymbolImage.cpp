@@ -42,6 +42,6 @@ void SymbolImage::paint(QPainter* painter)
 {
     if (m_name.isEmpty())
         return;
-    painter->setOpacity(m_color.alphaF());
+    painter->setOpacity(static_cast<qreal>(m_color.alphaF()));
     m_drawing.render(painter, boundingRect());
 }

@@ -28,7 +28,6 @@ bool hasTimersLeft = true;
 } // namespace
 
 /// In place of the C library's own, so that it can fail.
-// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): its names are reserved
 extern "C" int timerfd_create(clockid_t clock, int flags) noexcept
 {
     if (hasTimersLeft)

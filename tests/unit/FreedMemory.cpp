@@ -26,9 +26,9 @@ bool holdsWanted(const void* block, std::size_t size)
 
 } // namespace
 
-// NOLINTBEGIN(*-reserved-identifier,cert-*,readability-*-naming,readability-inconsistent-*): the C
-// library's and the sanitizer's names
-#ifdef __SANITIZE_ADDRESS__
+// NOLINTBEGIN(*-reserved-identifier,readability-*-naming): the C library's and the sanitizer's
+// names
+#if defined(__SANITIZE_ADDRESS__) || (defined(__has_feature) && __has_feature(address_sanitizer))
 
 extern "C" std::size_t __sanitizer_get_allocated_size(const volatile void* block);
 
@@ -64,7 +64,7 @@ void* realloc(void* block, std::size_t size)
 }
 
 #endif
-// NOLINTEND(*-reserved-identifier,cert-*,readability-*-naming,readability-inconsistent-*)
+// NOLINTEND(*-reserved-identifier,readability-*-naming)
 
 FreedMemory::FreedMemory(QStringView text)
 {

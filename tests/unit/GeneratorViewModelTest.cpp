@@ -269,7 +269,7 @@ TEST_F(GeneratorViewModelTest, TakesBackAnEarlierSecretUnderTheCurrentSettings)
     generateWord(indexOfTau);
     const QStringList history = model.history();
 
-    GeneratorSettings passwords;
+    const GeneratorSettings passwords;
     model.setSettings(passwords);
     model.useFromHistory(model.history().at(2));
     EXPECT_EQ(model.generated(), QStringLiteral("eule"));

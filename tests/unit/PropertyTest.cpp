@@ -254,6 +254,7 @@ bool keepsPassphrasePromises(QStringView text, const GeneratorSettings& settings
             }
             for (const std::string_view word : SecureGenerator::words) {
                 const auto size = static_cast<qsizetype>(word.size());
+                // NOLINTNEXTLINE(bugprone-suspicious-stringview-data-usage): its size is given
                 const QLatin1String letters(word.data(), size);
                 const QStringView rest = text.sliced(place);
                 if (rest.isEmpty())
