@@ -87,7 +87,21 @@ if(MORVANE_SANITIZERS)
 endif()
 
 # Translating bindings to C++ as well would double the program's size, and neither start it faster
-# nor draw faster.
+# nor draw faster. What Qt generates for each QML file takes a second to compile, nearly all of it
+# for Qt's headers; as one unit, it takes a few seconds for all files. Sources with options of their
+# own, such as ours, stay out of that unit.
 function(morvane_compile_qml_to_bytecode target)
-    set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+    set_target_properties(
+        ${target} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode
+                             UNITY_BUILD ON
+                             UNITY_BUILD_BATCH_SIZE 0)
+endfunction()
+
+# Qt's QML plugins are shared libraries, and those of our own modules are linked by name. Qt's scan
+# for plugins to link would find none and warn of each (CMake 3.31, Qt 6.8). The bundle for macOS
+# needs its result, as the list of plugins to take along.
+function(morvane_load_qml_plugins_at_run_time target)
+    if(NOT APPLE)
+        set_target_properties(${target} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN TRUE)
+    endif()
 endfunction()
