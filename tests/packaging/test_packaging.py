@@ -133,7 +133,7 @@ class Metadata(unittest.TestCase):
         released = re.search(r"^## \[([0-9.]+)\] - (\S+)$", changes, re.MULTILINE)
         self.assertEqual(released.groups(), (VERSION, newest.get("date")))
         debian = (SOURCES / "debian/changelog").read_text(encoding="utf-8")
-        self.assertTrue(debian.startswith(f"morvane ({VERSION}-"), debian)
+        self.assertTrue(debian.startswith(f"morvane ({VERSION}) "), debian)
 
 
 class Debian(unittest.TestCase):
