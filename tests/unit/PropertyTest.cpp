@@ -213,7 +213,7 @@ std::int64_t requestsDue(const GeneratorSettings& settings, const Weather& weath
     const auto error = errorDue(settings, weather);
     if (!error)
         return drawsNeeded(settings);
-    return error->randomStatus() ? *weather.failsAt + 1 : 0;
+    return error->randomStatus() ? weather.failsAt.value_or(0) + 1 : 0;
 }
 
 bool keepsPasswordPromises(const std::string& text, const GeneratorSettings& settings)
