@@ -56,8 +56,8 @@ for program in pyatspi.Registry.getDesktop(0):
 
 def version(package):
     """The version of an installed Debian package, as numbers; an unknown one is the newest."""
-    told = output("dpkg-query", "--show", "--showformat", "${Version}", package)
-    found = re.match(r"(?:\d+:)?(\d+(?:\.\d+)*)", told)
+    answer = output("dpkg-query", "--show", "--showformat", "${Version}", package)
+    found = re.match(r"(?:\d+:)?(\d+(?:\.\d+)*)", answer)
     return tuple(map(int, found[1].split("."))) if found else (sys.maxsize,)
 
 
