@@ -8,7 +8,7 @@ Window {
     id: root
 
     // Whether the system has no frame for a window without a title bar.
-    required property bool drawsFrame
+    required property bool clientSideDecorations
 
     color: Style.surface
     height: minimumHeight
@@ -35,7 +35,7 @@ Window {
         anchors.fill: parent
         areShortcutsEnabled: windowState.focused
         focus: true
-        topInset: root.drawsFrame ? 0 : 28
+        topInset: root.clientSideDecorations ? 0 : 28
     }
 
     WindowFrame {
@@ -43,7 +43,7 @@ Window {
 
         anchors.fill: parent
         value: content.value
-        visible: root.drawsFrame
+        visible: root.clientSideDecorations
         window: root
         windowState: windowState
 

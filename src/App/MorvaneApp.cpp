@@ -4,8 +4,8 @@
 #include "App/MorvaneApp.h"
 
 #include "App/WindowLoader.h"
-#include "Platform/Confinement.h"
 #include "Platform/ProcessMemory.h"
+#include "Platform/Sandbox.h"
 #include "Platform/SystemMenu.h"
 #include "Platform/WindowChrome.h"
 #include "Views/ApplicationIcon.h"
@@ -82,7 +82,7 @@ int MorvaneApp::run(int argc, char** argv) const
 
     Platform::ProcessMemory::keepFromDumps();
     // Connecting to the display starts threads, and these shall be bound as well.
-    Platform::Confinement::closeFiles();
+    Platform::Sandbox::restrictFilesystem();
 
     // Nobody can feed the program texts that collide, and Qt's hash with a random seed costs more
     // than a tenth of the start on processors with wide vectors.
@@ -103,7 +103,7 @@ int MorvaneApp::run(int argc, char** argv) const
     qInstallMessageHandler(handler);
     // Before anything secret is drawn, and with the display already reached: that one may be on
     // another machine.
-    Platform::Confinement::closeSystem();
+    Platform::Sandbox::installSyscallFilter();
     leaveGlyphsUnhintedOnScaledDisplays(application);
     const WindowLoader loader;
 
@@ -111,8 +111,9 @@ int MorvaneApp::run(int argc, char** argv) const
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QObject::connect(&engine, &QQmlEngine::quit, &application, &QCoreApplication::quit,
                      Qt::QueuedConnection);
-    const std::unique_ptr<QQuickWindow> window = loader.load(
-        engine, {{QStringLiteral("drawsFrame"), Platform::WindowChrome::isDrawnByProgram()}});
+    const std::unique_ptr<QQuickWindow> window
+        = loader.load(engine, {{QStringLiteral("clientSideDecorations"),
+                                Platform::WindowChrome::usesClientSideDecorations()}});
     if (!window)
         return EXIT_FAILURE;
     Platform::WindowChrome::hideTitleBar(*window);

@@ -19,7 +19,7 @@ Item {
 
     signal openWindow(string identifier)
 
-    TitleStrip {
+    TitleBar {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top

@@ -43,7 +43,7 @@ bool isPlainAscii(QStringView text)
 
 } // namespace
 
-qsizetype perceivedCharacterCount(QStringView text)
+qsizetype graphemeCount(QStringView text)
 {
     if (isPlainAscii(text))
         return text.size();
@@ -55,7 +55,7 @@ qsizetype perceivedCharacterCount(QStringView text)
     return count;
 }
 
-QString firstPerceivedCharacters(const QString& text, qsizetype count)
+QString firstGraphemes(const QString& text, qsizetype count)
 {
     if (isPlainAscii(text))
         return text.left(count);

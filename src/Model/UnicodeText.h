@@ -11,10 +11,10 @@
 namespace UnicodeText {
 
 /// The number of user-perceived characters: the extended grapheme clusters of Unicode's annex 29.
-[[nodiscard]] qsizetype perceivedCharacterCount(QStringView text);
+[[nodiscard]] qsizetype graphemeCount(QStringView text);
 
 /// The first `count` (0 or more) user-perceived characters; all of `text` if it has no more.
-[[nodiscard]] QString firstPerceivedCharacters(const QString& text, qsizetype count);
+[[nodiscard]] QString firstGraphemes(const QString& text, qsizetype count);
 
 /// Whether the texts are the same once composed and decomposed spellings count as one: canonical
 /// equivalence of the Unicode standard.

@@ -13,6 +13,6 @@ void hideTitleBar(QWindow& window);
 
 /// Whether the program has to draw the window's buttons, and to move and resize the window on its
 /// own, because none of it is left once the title bar is hidden.
-[[nodiscard]] bool isDrawnByProgram();
+[[nodiscard]] bool usesClientSideDecorations();
 
 } // namespace Platform::WindowChrome

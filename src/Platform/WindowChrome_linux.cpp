@@ -12,7 +12,7 @@ void hideTitleBar(QWindow& window)
     window.setFlag(Qt::FramelessWindowHint);
 }
 
-bool isDrawnByProgram()
+bool usesClientSideDecorations()
 {
     return true;
 }

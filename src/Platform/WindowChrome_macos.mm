@@ -18,7 +18,7 @@ void hideTitleBar(QWindow& window)
     frame.styleMask |= NSWindowStyleMaskFullSizeContentView;
 }
 
-bool isDrawnByProgram()
+bool usesClientSideDecorations()
 {
     return false;
 }

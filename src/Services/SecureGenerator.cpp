@@ -237,7 +237,7 @@ double SecureGenerator::estimatedEntropy(const QString& text,
         pool += symbols.size();
     if (pool == 0)
         return 0;
-    return static_cast<double>(UnicodeText::perceivedCharacterCount(text))
+    return static_cast<double>(UnicodeText::graphemeCount(text))
            * std::log2(static_cast<double>(pool));
 }
 

@@ -7,10 +7,10 @@
 
 int PerceivedText::count(const QString& text)
 {
-    return static_cast<int>(UnicodeText::perceivedCharacterCount(text));
+    return static_cast<int>(UnicodeText::graphemeCount(text));
 }
 
 QString PerceivedText::first(const QString& text, int count)
 {
-    return UnicodeText::firstPerceivedCharacters(text, count);
+    return UnicodeText::firstGraphemes(text, count);
 }

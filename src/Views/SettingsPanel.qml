@@ -89,7 +89,7 @@ Rectangle {
 
             onNeededChanged: {
                 if (needed && !item)
-                    setSource("PhraseSettings.qml", {
+                    setSource("PassphraseSettings.qml", {
                             "spacing": controls.spacing,
                             "viewModel": root.model
                         });

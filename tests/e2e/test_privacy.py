@@ -24,7 +24,7 @@ from systemcalls import offences, read, read_files, tracing
 
 PROGRAMS = {
     name: os.environ[name]
-    for name in ("MORVANE_PROGRAM", "MORVANE_UNCONFINED_PROGRAM")
+    for name in ("MORVANE_PROGRAM", "MORVANE_UNSANDBOXED_PROGRAM")
     if name in os.environ
 }
 

@@ -27,7 +27,7 @@ TestCase {
         return content.model.settings.mode; // qmllint disable type
     }
 
-    function showPhraseSettings() {
+    function showPassphraseSettings() {
         content.model.settings.mode = 1;
         generations.clear();
     }
@@ -54,7 +54,7 @@ TestCase {
         let found = [];
         for (const child of Array.from(column.children).filter(item => item.visible)) {
             const settings = child instanceof Loader ? child.item : child;
-            if (settings instanceof PasswordSettings || settings instanceof PhraseSettings)
+            if (settings instanceof PasswordSettings || settings instanceof PassphraseSettings)
                 found = found.concat(Array.from(settings.children).filter(item => item.height > 0));
             else if (child.height > 0)
                 found.push(child);
@@ -95,7 +95,7 @@ TestCase {
         const groups = Array.from(["lowercase", "uppercase", "numbers", "symbols"], name => control(name));
         for (let i = 1; i < groups.length; ++i)
             compare(groups[i].y, groups[i - 1].y + groups[i - 1].height + 10);
-        showPhraseSettings();
+        showPassphraseSettings();
         const field = control("separator");
         compare(field.y, findChild(field.parent, "separatorTitle").height + 6);
     }
@@ -361,7 +361,7 @@ TestCase {
     }
 
     function test_separatorKeepsThreePerceivedCharacters(data) {
-        showPhraseSettings();
+        showPassphraseSettings();
         content.model.settings.separator = data.typed;
         compare(content.model.settings.separator, data.kept);
         compare(control("separator").text, data.kept);
@@ -370,7 +370,7 @@ TestCase {
     }
 
     function test_typingAFourthCharacterLeavesThree() {
-        showPhraseSettings();
+        showPassphraseSettings();
         const field = control("separator") as LineField;
         compare(field.placeholderText, "Trennzeichen");
         field.forceActiveFocus();

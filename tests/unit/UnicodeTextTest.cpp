@@ -17,8 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-static_assert(
-    std::is_same_v<decltype(UnicodeText::perceivedCharacterCount(QStringView())), qsizetype>);
+static_assert(std::is_same_v<decltype(UnicodeText::graphemeCount(QStringView())), qsizetype>);
 
 namespace {
 
@@ -95,20 +94,20 @@ TEST_F(StandardBoundaries, AreReadFromAllCases)
 TEST_F(StandardBoundaries, GiveTheCountOfPerceivedCharacters)
 {
     for (const auto& [line, text, ends] : m_cases) {
-        EXPECT_EQ(UnicodeText::perceivedCharacterCount(text), std::ssize(ends)) << line;
+        EXPECT_EQ(UnicodeText::graphemeCount(text), std::ssize(ends)) << line;
     }
 }
 
 TEST_F(StandardBoundaries, GiveEveryPrefixOfPerceivedCharacters)
 {
     for (const auto& [line, text, ends] : m_cases) {
-        EXPECT_EQ(UnicodeText::firstPerceivedCharacters(text, 0), QString()) << line;
+        EXPECT_EQ(UnicodeText::firstGraphemes(text, 0), QString()) << line;
         for (std::size_t i = 0; i < ends.size(); ++i) {
             const auto count = static_cast<qsizetype>(i) + 1;
-            EXPECT_EQ(UnicodeText::firstPerceivedCharacters(text, count), text.left(ends[i]))
+            EXPECT_EQ(UnicodeText::firstGraphemes(text, count), text.left(ends[i]))
                 << count << " of " << line;
         }
-        EXPECT_EQ(UnicodeText::firstPerceivedCharacters(text, std::ssize(ends) + 1), text) << line;
+        EXPECT_EQ(UnicodeText::firstGraphemes(text, std::ssize(ends) + 1), text) << line;
     }
 }
 
@@ -125,7 +124,7 @@ class PerceivedCharacterCount : public testing::TestWithParam<Counted>
 
 TEST_P(PerceivedCharacterCount, IsWhatAReaderCounts)
 {
-    EXPECT_EQ(UnicodeText::perceivedCharacterCount(GetParam().text), GetParam().count);
+    EXPECT_EQ(UnicodeText::graphemeCount(GetParam().text), GetParam().count);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -147,16 +146,16 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(FirstPerceivedCharacters, LeavesAShorterTextAsItIs)
 {
-    EXPECT_EQ(UnicodeText::firstPerceivedCharacters(u"ab"_s, 3), u"ab"_s);
-    EXPECT_EQ(UnicodeText::firstPerceivedCharacters(u"a\u0308"_s, 3), u"a\u0308"_s);
-    EXPECT_EQ(UnicodeText::firstPerceivedCharacters(u""_s, 3), u""_s);
+    EXPECT_EQ(UnicodeText::firstGraphemes(u"ab"_s, 3), u"ab"_s);
+    EXPECT_EQ(UnicodeText::firstGraphemes(u"a\u0308"_s, 3), u"a\u0308"_s);
+    EXPECT_EQ(UnicodeText::firstGraphemes(u""_s, 3), u""_s);
 }
 
 TEST(FirstPerceivedCharacters, NeverCutsACharacterApart)
 {
     const QString flags = u"\U0001f1e9\U0001f1ea\U0001f1e6\U0001f1f9"_s;
-    EXPECT_EQ(UnicodeText::firstPerceivedCharacters(flags, 1), u"\U0001f1e9\U0001f1ea"_s);
-    EXPECT_EQ(UnicodeText::firstPerceivedCharacters(u"\r\nab"_s, 2), u"\r\na"_s);
+    EXPECT_EQ(UnicodeText::firstGraphemes(flags, 1), u"\U0001f1e9\U0001f1ea"_s);
+    EXPECT_EQ(UnicodeText::firstGraphemes(u"\r\nab"_s, 2), u"\r\na"_s);
 }
 
 struct Equivalence

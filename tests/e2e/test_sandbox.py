@@ -15,9 +15,9 @@ import unittest
 
 from desktop import PROGRAM, Desktop, Program, key, qt_version, until
 
-INTRUDER = os.environ["MORVANE_INTRUDER"]
+PROBE = os.environ["MORVANE_SANDBOX_PROBE"]
 OLD_KERNEL = os.environ["MORVANE_OLD_KERNEL"]
-UNCONFINED = os.environ["MORVANE_UNCONFINED_PROGRAM"]
+UNCONFINED = os.environ["MORVANE_UNSANDBOXED_PROGRAM"]
 
 # What anybody may do, whatever machine the tests run on.
 COMMON = {"exec", "ptrace", "internet"}
@@ -29,7 +29,7 @@ OPEN = {"unix", "netlink", "read", "null", "memory-file"}
 FONT = pathlib.Path("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")
 
 
-class Confinement(unittest.TestCase):
+class Sandbox(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.desktop = Desktop()
@@ -39,7 +39,7 @@ class Confinement(unittest.TestCase):
 
     def intrude(self, **options):
         """The errors of all attempts: of each, by its name, those that it met in the threads."""
-        with Program(self.desktop, preload=INTRUDER, **options) as program:
+        with Program(self.desktop, preload=PROBE, **options) as program:
             program.window()
             value = until(program.value, "a value")
             key("ctrl+r")
@@ -49,14 +49,14 @@ class Confinement(unittest.TestCase):
             ended, text = program.ended()
         self.assertEqual(ended, 0, text)
         lines = text.splitlines()
-        self.assertIn("intruder done", lines)
+        self.assertIn("probe done", lines)
         errors = collections.defaultdict(list)
-        for thread, attempt, error in re.findall(r"^intruder (\S+) (\S+) (-?\d+)$", text, re.M):
+        for thread, attempt, error in re.findall(r"^probe (\S+) (\S+) (-?\d+)$", text, re.M):
             errors[attempt].append((thread, int(error)))
         self.assertEqual(errors.keys(), FILES | SYSTEM | SOCKETS | OPEN)
         # The display's and the buses' have started by then.
         self.assertGreaterEqual(len(errors["create"]), 3)
-        self.assertEqual([l for l in lines if not l.startswith("intruder ")], [])
+        self.assertEqual([l for l in lines if not l.startswith("probe ")], [])
         return errors, status
 
     def assert_met(self, expected, attempts, errors):

@@ -5,7 +5,7 @@
 // do: it writes, sends and starts things, from every thread, at the moment at which the first
 // secret is drawn. What came of it is told on standard error, a line each:
 //
-//     intruder <thread> <attempt> <0, or the error's number>
+//     probe <thread> <attempt> <0, or the error's number>
 
 #include <algorithm>
 #include <array>
@@ -173,7 +173,7 @@ constexpr std::array attempts{
     Attempt{"netlink", [] { return errorOfOpening(::socket(AF_NETLINK, SOCK_RAW, 0)); }},
     Attempt{"read", [] { return errorOfOpening(::open(paths().file.c_str(), O_RDONLY)); }},
     Attempt{"null", [] { return errorOfOpening(::open("/dev/null", O_WRONLY)); }},
-    Attempt{"memory-file", [] { return errorOfOpening(::memfd_create("intruder", 0)); }},
+    Attempt{"memory-file", [] { return errorOfOpening(::memfd_create("sandbox-probe", 0)); }},
 };
 
 std::array<int, attempts.size()> errors;
@@ -195,7 +195,7 @@ void attemptAllHere(int /*signal*/)
 void tell(const std::string& thread)
 {
     for (std::size_t i = 0; i < attempts.size(); ++i)
-        std::cerr << "intruder " << thread << ' ' << attempts.at(i).name << ' ' << errors.at(i)
+        std::cerr << "probe " << thread << ' ' << attempts.at(i).name << ' ' << errors.at(i)
                   << '\n';
 }
 
@@ -219,7 +219,7 @@ void intrude()
         }
         tell(thread);
     }
-    std::cerr << "intruder done\n";
+    std::cerr << "probe done\n";
 }
 
 std::atomic_flag hasIntruded;

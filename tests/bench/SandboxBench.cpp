@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// What a start of the program pays for its confinement. It cannot be taken back, so each round runs
+// What a start of the program pays for its sandbox. It cannot be taken back, so each round runs
 // in a process of its own; what starting that one costs is not counted.
 
-#include "Platform/Confinement.h"
+#include "Platform/Sandbox.h"
 
 #include <benchmark/benchmark.h>
 
@@ -52,10 +52,10 @@ void inFreshProcess(benchmark::State& state, void (*confine)())
     }
 }
 
-BENCHMARK_CAPTURE(inFreshProcess, files, Platform::Confinement::closeFiles)
+BENCHMARK_CAPTURE(inFreshProcess, files, Platform::Sandbox::restrictFilesystem)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(inFreshProcess, system, Platform::Confinement::closeSystem)
+BENCHMARK_CAPTURE(inFreshProcess, system, Platform::Sandbox::installSyscallFilter)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Confinement.h"
+#include "Platform/Sandbox.h"
 
 #include <array>
 #include <bit>
@@ -18,7 +18,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-namespace Platform::Confinement {
+namespace Platform::Sandbox {
 
 namespace {
 
@@ -165,7 +165,7 @@ void refuseOtherSockets(scmp_filter_ctx filter)
 
 } // namespace
 
-void closeFiles() noexcept
+void restrictFilesystem() noexcept
 {
     // The kernel headers have more members since 6.7, and these stay zero.
     landlock_ruleset_attr changes{};
@@ -187,7 +187,7 @@ void closeFiles() noexcept
     restrictSelf(ruleset);
 }
 
-void closeSystem() noexcept
+void installSyscallFilter() noexcept
 {
     const Filter filter(seccomp_init(SCMP_ACT_ALLOW));
     if (!filter)
@@ -201,4 +201,4 @@ void closeSystem() noexcept
     seccomp_load(filter.get());
 }
 
-} // namespace Platform::Confinement
+} // namespace Platform::Sandbox
