@@ -6,6 +6,7 @@
 #include "App/WindowLoader.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/Sandbox.h"
+#include "Platform/SystemAppearance.h"
 #include "Platform/SystemMenu.h"
 #include "Platform/WindowChrome.h"
 #include "Views/ApplicationIcon.h"
@@ -53,6 +54,17 @@ void leaveGlyphsUnhintedOnScaledDisplays(const QGuiApplication& application)
     QFont font = QGuiApplication::font();
     font.setHintingPreference(QFont::PreferNoHinting);
     QGuiApplication::setFont(font);
+}
+
+/// The portal examines the process that calls it and refuses to answer a hidden one.
+void hideProcessMemory()
+{
+    const auto& appearance = Platform::SystemAppearance::instance();
+    if (appearance.isSettled())
+        Platform::ProcessMemory::hide();
+    else
+        QObject::connect(&appearance, &Platform::SystemAppearance::settled, &appearance,
+                         Platform::ProcessMemory::hide);
 }
 
 /// Ends the program where Qt would not let it: on X11 it waits up to five seconds for a clipboard
@@ -104,6 +116,7 @@ int MorvaneApp::run(int argc, char** argv) const
     // Before anything secret is drawn, and with the display already reached: that one may be on
     // another machine.
     Platform::Sandbox::installSyscallFilter();
+    hideProcessMemory();
     leaveGlyphsUnhintedOnScaledDisplays(application);
     const WindowLoader loader;
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
+#include "Platform/ApplicationObject.h"
 #include "Platform/Clipboard.h"
 
 #include <QByteArray>
@@ -162,29 +163,21 @@ private:
     QTimer m_soon;
 };
 
-CountedClipboard& clipboard()
-{
-    static QPointer<CountedClipboard> instance;
-    if (!instance) // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its parent owns it
-        instance = new CountedClipboard(QCoreApplication::instance());
-    return *instance;
-}
-
 } // namespace
 
 void setSecret(const QString& text)
 {
-    clipboard().setSecret(text);
+    applicationObject<CountedClipboard>().setSecret(text);
 }
 
 void clear()
 {
-    clipboard().clear();
+    applicationObject<CountedClipboard>().clear();
 }
 
 std::int64_t changeCount()
 {
-    return clipboard().changeCount();
+    return applicationObject<CountedClipboard>().changeCount();
 }
 
 } // namespace Platform::Clipboard

@@ -5,26 +5,56 @@
 
 #include <QObject>
 
-#include <functional>
 #include <optional>
 
 namespace Platform {
 
-/// What the user asked of the look of all programs.
-struct SystemAppearance
+/// The user's settings for the look of all programs. Belongs on the user-interface thread.
+class SystemAppearance : public QObject
 {
-    /// Absent where the system does not say.
-    std::optional<bool> dark;
-    /// No movement that serves decoration only.
-    bool reducedMotion = false;
+    Q_OBJECT
 
-    friend bool operator==(const SystemAppearance&, const SystemAppearance&) = default;
+public:
+    /// The appearance that belongs to the running application. The first call starts to read the
+    /// settings and returns before they are known.
+    [[nodiscard]] static SystemAppearance& instance();
 
-    /// Calls `changed` on the user-interface thread with every answer of the system that differs
-    /// from the one before (at first: from a default-constructed one), for as long as `observer`
-    /// lives. Returns at once; where the system never answers, `changed` is never called. Hides the
-    /// process's memory as soon as the system has no more need to look at who asks.
-    static void observe(QObject* observer, std::function<void(const SystemAppearance&)> changed);
+    /// Whether the user prefers a dark colour scheme; absent where the system has no answer.
+    [[nodiscard]] std::optional<bool> isDark() const { return m_isDark; }
+    /// Whether programs leave out movement that only decorates.
+    [[nodiscard]] bool isMotionReduced() const { return m_isMotionReduced; }
+    /// Whether the settings are known, as far as the system has any.
+    [[nodiscard]] bool isSettled() const { return m_isSettled; }
+
+Q_SIGNALS:
+    /// `isDark` or `isMotionReduced` has changed.
+    void changed();
+    /// `isSettled` has become true. Emitted once, at most 5 seconds after the first call of
+    /// `instance`; not emitted if `isSettled` was true after that call.
+    void settled();
+
+protected:
+    using QObject::QObject;
+
+    void update(std::optional<bool> isDark, bool isMotionReduced)
+    {
+        if (isDark == m_isDark && isMotionReduced == m_isMotionReduced)
+            return;
+        m_isDark = isDark;
+        m_isMotionReduced = isMotionReduced;
+        Q_EMIT changed();
+    }
+
+    void settle()
+    {
+        m_isSettled = true;
+        Q_EMIT settled();
+    }
+
+private:
+    std::optional<bool> m_isDark;
+    bool m_isMotionReduced = false;
+    bool m_isSettled = false;
 };
 
 } // namespace Platform

@@ -1,9 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-#include "Platform/PortalSettings.h"
-#include "Platform/ProcessMemory.h"
+#include "Platform/ApplicationObject.h"
 #include "Platform/SystemAppearance.h"
+#include "PortalSettings.h"
+
+#include <QDBusConnection>
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QLatin1String>
+#include <QMap>
+#include <QVariantMap>
 
 #include <utility>
 
@@ -11,14 +19,16 @@ namespace Platform {
 
 namespace {
 
+using Settings = QMap<QString, QVariantMap>;
+
 constexpr QLatin1String appearance("org.freedesktop.appearance");
-// Portals that are older than the agreed key for reduced motion hand out their desktop's own.
+// Portals that are older than the common key "reduced-motion" offer the keys of their desktop.
 constexpr QLatin1String gnome("org.gnome.desktop.interface");
 constexpr QLatin1String plasma("org.kde.kdeglobals.KDE");
 
-std::optional<bool> darkPreference(const PortalSettings& settings)
+std::optional<bool> darkPreference(const Settings& settings)
 {
-    switch (settings.value(appearance, QLatin1String("color-scheme")).toUInt()) {
+    switch (settings[appearance][QLatin1String("color-scheme")].toUInt()) {
     case 1:
         return true;
     case 2:
@@ -28,37 +38,68 @@ std::optional<bool> darkPreference(const PortalSettings& settings)
     }
 }
 
-bool wantsReducedMotion(const PortalSettings& settings)
+bool prefersReducedMotion(const Settings& settings)
 {
-    const QVariant animations = settings.value(gnome, QLatin1String("enable-animations"));
-    const QVariant durations = settings.value(plasma, QLatin1String("AnimationDurationFactor"));
-    return settings.value(appearance, QLatin1String("reduced-motion")).toUInt() == 1
+    const QVariant animations = settings[gnome][QLatin1String("enable-animations")];
+    const QVariant durations = settings[plasma][QLatin1String("AnimationDurationFactor")];
+    return settings[appearance][QLatin1String("reduced-motion")].toUInt() == 1
            || (animations.isValid() && !animations.toBool())
            || (durations.isValid() && durations.toDouble() == 0);
 }
 
+/// The settings of the desktop portal, which are read once over D-Bus and then followed. Without a
+/// session bus or a portal there are none.
+class PortalAppearance final : public SystemAppearance
+{
+public:
+    explicit PortalAppearance(QObject* parent)
+        : SystemAppearance(parent)
+        , m_portal(QStringLiteral("org.freedesktop.portal.Desktop"),
+                   QStringLiteral("/org/freedesktop/portal/desktop"), QDBusConnection::sessionBus())
+    {
+        if (!m_portal.connection().isConnected()) {
+            settle();
+            return;
+        }
+        qDBusRegisterMetaType<Settings>();
+        connect(&m_portal, &PortalSettings::SettingChanged, this, &PortalAppearance::takeChange);
+        constexpr int timeout = 5000;
+        m_portal.setTimeout(timeout);
+        const auto* const reply
+            = new QDBusPendingCallWatcher(m_portal.ReadAll({appearance, gnome, plasma}), this);
+        connect(reply, &QDBusPendingCallWatcher::finished, this, &PortalAppearance::takeReply);
+    }
+
+private:
+    void takeChange(const QString& group, const QString& key, const QDBusVariant& value)
+    {
+        m_settings[group][key] = value.variant();
+        update(darkPreference(m_settings), prefersReducedMotion(m_settings));
+    }
+
+    void takeReply(QDBusPendingCallWatcher* call)
+    {
+        const QDBusPendingReply<Settings> reply = *call;
+        call->deleteLater();
+        if (!reply.isError()) {
+            // A change that arrived before the reply is newer than the reply.
+            const Settings changes = std::exchange(m_settings, reply.value());
+            for (auto group = changes.begin(); group != changes.end(); ++group)
+                m_settings[group.key()].insert(group.value());
+            update(darkPreference(m_settings), prefersReducedMotion(m_settings));
+        }
+        settle();
+    }
+
+    PortalSettings m_portal;
+    Settings m_settings;
+};
+
 } // namespace
 
-void SystemAppearance::observe(QObject* observer,
-                               std::function<void(const SystemAppearance&)> changed)
+SystemAppearance& SystemAppearance::instance()
 {
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its parent owns it
-    const auto* const settings = new PortalSettings({appearance, gnome, plasma}, observer);
-    QObject::connect(settings, &PortalSettings::changed, observer,
-                     [settings, changed = std::move(changed), told = SystemAppearance()]() mutable {
-                         const SystemAppearance current{.dark = darkPreference(*settings),
-                                                        .reducedMotion
-                                                        = wantsReducedMotion(*settings)};
-                         if (current != std::exchange(told, current))
-                             changed(current);
-                     });
-
-    // Before its first answer the portal looks at who asks, and gives none to a hidden process.
-    // From then on it knows.
-    if (settings->isAsking())
-        QObject::connect(settings, &PortalSettings::asked, observer, ProcessMemory::hide);
-    else
-        ProcessMemory::hide();
+    return applicationObject<PortalAppearance>();
 }
 
 } // namespace Platform

@@ -1,21 +1,32 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-#include "Platform/ProcessMemory.h"
+#include "Platform/ApplicationObject.h"
 #include "Platform/SystemAppearance.h"
 
 #import <AppKit/AppKit.h>
 
 namespace Platform {
 
-// The colour scheme reaches Qt's palette by itself.
-void SystemAppearance::observe(QObject* /*observer*/,
-                               std::function<void(const SystemAppearance&)> changed)
+namespace {
+
+class WorkspaceAppearance final : public SystemAppearance
 {
-    const bool reducedMotion = [NSWorkspace sharedWorkspace].accessibilityDisplayShouldReduceMotion;
-    if (reducedMotion)
-        changed({.dark = std::nullopt, .reducedMotion = true});
-    ProcessMemory::hide();
+public:
+    explicit WorkspaceAppearance(QObject* parent)
+        : SystemAppearance(parent)
+    {
+        // Qt's palette follows the colour scheme on macOS, so only the reduced motion is read here.
+        update(std::nullopt, [NSWorkspace sharedWorkspace].accessibilityDisplayShouldReduceMotion);
+        settle();
+    }
+};
+
+} // namespace
+
+SystemAppearance& SystemAppearance::instance()
+{
+    return applicationObject<WorkspaceAppearance>();
 }
 
 } // namespace Platform

@@ -3,6 +3,8 @@
 
 #include "Views/Appearance.h"
 
+#include "Platform/SystemAppearance.h"
+
 #include <QEvent>
 #include <QFont>
 #include <QFontInfo>
@@ -12,8 +14,11 @@
 #include <QStyleHints>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
+
+using Platform::SystemAppearance;
 
 constexpr int bodyTextPixels = 13;
 
@@ -42,15 +47,18 @@ Appearance::Appearance(QObject* parent)
 #endif
     if (const QScreen* const screen = QGuiApplication::primaryScreen())
         connect(screen, &QScreen::logicalDotsPerInchChanged, this, &Appearance::changed);
-    Platform::SystemAppearance::observe(this, [this](const Platform::SystemAppearance& system) {
-        m_system = system;
-        Q_EMIT changed();
-    });
+    connect(&SystemAppearance::instance(), &SystemAppearance::changed, this, &Appearance::changed);
 }
 
-bool Appearance::dark() const
+bool Appearance::dark()
 {
-    return m_system.dark ? *m_system.dark : paletteIsDark();
+    const std::optional<bool> isDark = SystemAppearance::instance().isDark();
+    return isDark ? *isDark : paletteIsDark();
+}
+
+bool Appearance::reducedMotion()
+{
+    return SystemAppearance::instance().isMotionReduced();
 }
 
 double Appearance::textScale()

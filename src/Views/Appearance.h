@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "Platform/SystemAppearance.h"
-
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -23,9 +21,9 @@ public:
     explicit Appearance(QObject* parent = nullptr);
 
     /// Whether text is light on a dark ground: as the system says, or else as the palette is.
-    [[nodiscard]] bool dark() const;
+    [[nodiscard]] static bool dark();
     /// Whether to leave out all movement that only decorates.
-    [[nodiscard]] bool reducedMotion() const { return m_system.reducedMotion; }
+    [[nodiscard]] static bool reducedMotion();
     /// The height of the user's font in units of 13 pixels, and not less than 1.
     [[nodiscard]] static double textScale();
 
@@ -34,7 +32,4 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    Platform::SystemAppearance m_system;
 };

@@ -24,7 +24,7 @@ public:
 
     Q_INVOKABLE static void setAppearance(bool dark, bool reducedMotion)
     {
-        FakeAppearance::set({.dark = dark, .reducedMotion = reducedMotion});
+        FakeAppearance::set(dark, reducedMotion);
     }
 
     Q_INVOKABLE static void setFontPixelSize(int pixels)

@@ -3,16 +3,14 @@
 
 #include "FakeDesktop.h"
 
+#include "Platform/ApplicationObject.h"
 #include "Platform/Clipboard.h"
 #include "Platform/ContinuousClock.h"
+#include "Platform/SystemAppearance.h"
 
-#include <QPointer>
-
-#include <algorithm>
 #include <functional>
 #include <map>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -32,16 +30,16 @@ struct ClockState
     std::multimap<milliseconds, std::function<void()>> tasks;
 };
 
-struct Observer
+class SettableAppearance final : public Platform::SystemAppearance
 {
-    QPointer<QObject> object;
-    std::function<void(const Platform::SystemAppearance&)> changed;
-};
+public:
+    explicit SettableAppearance(QObject* parent)
+        : SystemAppearance(parent)
+    {
+        settle();
+    }
 
-struct AppearanceState
-{
-    Platform::SystemAppearance appearance;
-    std::vector<Observer> observers;
+    using SystemAppearance::update;
 };
 
 template<typename State>
@@ -102,14 +100,9 @@ void FakeClock::reset()
     state<ClockState>() = {};
 }
 
-void FakeAppearance::set(const Platform::SystemAppearance& appearance)
+void FakeAppearance::set(std::optional<bool> dark, bool reducedMotion)
 {
-    auto& [current, observers] = state<AppearanceState>();
-    if (appearance == std::exchange(current, appearance))
-        return;
-    std::erase_if(observers, [](const Observer& observer) { return !observer.object; });
-    for (const Observer& observer : observers)
-        observer.changed(appearance);
+    Platform::applicationObject<SettableAppearance>().update(dark, reducedMotion);
 }
 
 namespace Platform {
@@ -136,13 +129,9 @@ void ContinuousClock::after(milliseconds wait, std::function<void()> task)
     clock.tasks.emplace(clock.now + wait, std::move(task));
 }
 
-void SystemAppearance::observe(QObject* observer,
-                               std::function<void(const SystemAppearance&)> changed)
+SystemAppearance& SystemAppearance::instance()
 {
-    auto& [current, observers] = state<AppearanceState>();
-    if (current != SystemAppearance())
-        changed(current);
-    observers.push_back({.object = observer, .changed = std::move(changed)});
+    return applicationObject<SettableAppearance>();
 }
 
 } // namespace Platform

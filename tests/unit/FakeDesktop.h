@@ -6,8 +6,6 @@
 // Stands in for the clipboard, the clock and the appearance of the system, in every executable that
 // links MorvaneFakeDesktop. Each is one for the whole program, as the system's are.
 
-#include "Platform/SystemAppearance.h"
-
 #include <QString>
 
 #include <chrono>
@@ -45,7 +43,7 @@ void reset();
 
 namespace FakeAppearance {
 
-/// Tells all observers, and those to come, if it differs from what was set before.
-void set(const Platform::SystemAppearance& appearance);
+/// Sets the user's settings. The appearance emits `changed` if they differ from the ones before.
+void set(std::optional<bool> dark, bool reducedMotion);
 
 } // namespace FakeAppearance
