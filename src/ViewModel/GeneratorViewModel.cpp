@@ -4,6 +4,7 @@
 #include "ViewModel/GeneratorViewModel.h"
 
 #include "Model/GeneratorError.h"
+#include "Model/UnicodeText.h"
 #include "Platform/Clipboard.h"
 #include "Platform/ContinuousClock.h"
 #include "Services/SecretText.h"
@@ -26,6 +27,8 @@ constexpr auto copyStaysConfirmed = 1400ms;
 
 constexpr qint64 startingLength = 10;
 constexpr qsizetype historyLimit = 6;
+constexpr qsizetype separatorLimit = 3;
+constexpr qsizetype longestShortValue = 38;
 
 } // namespace
 
@@ -56,6 +59,37 @@ QStringList GeneratorViewModel::modeTitles()
     for (const GeneratorMode mode : allGeneratorModes)
         titles << rawValue(mode);
     return titles;
+}
+
+int GeneratorViewModel::modeIndex() const
+{
+    const auto* const mode = std::ranges::find(allGeneratorModes, m_settings.mode);
+    return static_cast<int>(mode - allGeneratorModes.begin());
+}
+
+void GeneratorViewModel::setModeIndex(int index)
+{
+    GeneratorSettings settings = m_settings;
+    settings.mode = allGeneratorModes.at(static_cast<std::size_t>(index));
+    setSettings(settings);
+}
+
+bool GeneratorViewModel::isPassphrase() const
+{
+    return m_settings.mode == GeneratorMode::passphrase;
+}
+
+void GeneratorViewModel::limitSeparator()
+{
+    GeneratorSettings settings = m_settings;
+    settings.separator = UnicodeText::firstGraphemes(m_settings.separator, separatorLimit);
+    if (settings.separator.size() < m_settings.separator.size())
+        setSettings(settings);
+}
+
+bool GeneratorViewModel::isLong() const
+{
+    return UnicodeText::graphemeCount(m_generated) > longestShortValue;
 }
 
 PasswordStrength GeneratorViewModel::strength() const

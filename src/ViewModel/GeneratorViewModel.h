@@ -28,7 +28,10 @@ class GeneratorViewModel : public QObject
     Q_PROPERTY(
         GeneratorSettings settings READ settings WRITE setSettings NOTIFY settingsChanged FINAL)
     Q_PROPERTY(QList<QString> modeTitles READ modeTitles CONSTANT FINAL)
+    Q_PROPERTY(int modeIndex READ modeIndex WRITE setModeIndex NOTIFY settingsChanged FINAL)
+    Q_PROPERTY(bool isPassphrase READ isPassphrase NOTIFY settingsChanged FINAL)
     Q_PROPERTY(QString generated READ generated NOTIFY generatedChanged FINAL)
+    Q_PROPERTY(bool isLong READ isLong NOTIFY generatedChanged FINAL)
     Q_PROPERTY(double entropy READ entropy NOTIFY entropyChanged FINAL)
     Q_PROPERTY(int strengthLevel READ strengthLevel NOTIFY entropyChanged FINAL)
     Q_PROPERTY(QString strengthTitle READ strengthTitle NOTIFY entropyChanged FINAL)
@@ -51,9 +54,20 @@ public:
 
     /// The labels of all modes, in the order of their values.
     [[nodiscard]] static QStringList modeTitles();
+    /// The index of the settings' mode in `modeTitles`.
+    [[nodiscard]] int modeIndex() const;
+    /// Changes the settings' mode to the one at `index` of `modeTitles`, which is in its range.
+    void setModeIndex(int index);
+    /// Whether the settings' mode is `passphrase`.
+    [[nodiscard]] bool isPassphrase() const;
+    /// Shortens a separator of more than 3 grapheme clusters to the first 3, by a change of the
+    /// settings of its own; does nothing to a shorter separator.
+    Q_INVOKABLE void limitSeparator();
 
     /// The secret on show.
     [[nodiscard]] const QString& generated() const { return m_generated; }
+    /// Whether `generated` has more than 38 grapheme clusters.
+    [[nodiscard]] bool isLong() const;
     /// The estimated entropy of `generated`, in bits.
     [[nodiscard]] double entropy() const { return m_entropy; }
     /// The rating of `entropy`; it changes with it.

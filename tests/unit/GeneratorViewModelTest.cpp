@@ -5,6 +5,7 @@
 
 #include "Model/GeneratorError.h"
 #include "ScriptedRandom.h"
+#include "ViewModel/GeneratorSettingsObserver.h"
 
 #include <QObject>
 #include <QStringList>
@@ -317,6 +318,96 @@ TEST_F(GeneratorViewModelTest, AnErrorCannotBePresentedFromOutside)
     model.setErrorPresented(true);
     EXPECT_FALSE(model.errorPresented());
     EXPECT_THAT(log, ElementsAre());
+}
+
+TEST_F(GeneratorViewModelTest, ModeIndexIsTheModesPlaceInTheTitles)
+{
+    EXPECT_EQ(model.modeIndex(), 0);
+    EXPECT_FALSE(model.isPassphrase());
+    model.setSettings(singleWord());
+    EXPECT_EQ(model.modeIndex(), 1);
+    EXPECT_TRUE(model.isPassphrase());
+    EXPECT_EQ(GeneratorViewModel::modeTitles().at(model.modeIndex()),
+              rawValue(model.settings().mode));
+}
+
+TEST_F(GeneratorViewModelTest, SettingTheModeIndexChangesTheModeAlone)
+{
+    GeneratorSettings expected = singleWord();
+    model.setSettings(expected);
+    record();
+    for (const GeneratorMode mode : allGeneratorModes) {
+        log.clear();
+        model.setModeIndex(mode == GeneratorMode::password ? 0 : 1);
+        expected.mode = mode;
+        EXPECT_EQ(model.settings(), expected);
+        EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
+    }
+}
+
+TEST_F(GeneratorViewModelTest, IsLongFromThe39thGraphemeCluster)
+{
+    const auto isLong = [this](const QString& value) {
+        model.useFromHistory(value);
+        return model.isLong();
+    };
+    EXPECT_FALSE(isLong(QString()));
+    EXPECT_FALSE(isLong(QString(38, QLatin1Char('x'))));
+    EXPECT_TRUE(isLong(QString(39, QLatin1Char('x'))));
+    const QString decomposed = QStringLiteral("e\u0301");
+    EXPECT_FALSE(isLong(decomposed.repeated(38)));
+    EXPECT_TRUE(isLong(decomposed.repeated(39)));
+}
+
+TEST_F(GeneratorViewModelTest, LimitsTheSeparatorToThreeGraphemeClusters)
+{
+    // The joined emoji are a single grapheme cluster of eight UTF-16 units.
+    const QString family = QStringLiteral("\U0001F468\u200D\U0001F469\u200D\U0001F467");
+    GeneratorSettings settings = singleWord();
+    settings.separator = QStringLiteral("a") + family + QStringLiteral("e\u0301") + family;
+    model.setSettings(settings);
+    record();
+    model.limitSeparator();
+    settings.separator = QStringLiteral("a") + family + QStringLiteral("e\u0301");
+    EXPECT_EQ(model.settings(), settings);
+    EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
+}
+
+TEST_F(GeneratorViewModelTest, LeavesASeparatorOfUpToThreeGraphemeClustersAlone)
+{
+    record();
+    for (const QString& separator :
+         {QString(), QStringLiteral("-"), QStringLiteral("abc"), QStringLiteral("e\u0301bc")}) {
+        GeneratorSettings settings = singleWord();
+        settings.separator = separator;
+        model.setSettings(settings);
+        log.clear();
+        model.limitSeparator();
+        EXPECT_EQ(model.settings().separator, separator);
+        EXPECT_THAT(log, ElementsAre());
+    }
+}
+
+TEST_F(GeneratorViewModelTest, TheObserverSeesTheLongSeparatorAndTheShortenedOne)
+{
+    GeneratorSettingsObserver observer;
+    int changes = 0;
+    QObject::connect(&observer, &GeneratorSettingsObserver::changed, &model,
+                     [&changes] { ++changes; });
+    GeneratorSettings settings = singleWord();
+    model.setSettings(settings);
+    observer.setSettings(model.settings());
+    QObject::connect(&model, &GeneratorViewModel::settingsChanged, &observer,
+                     [&] { observer.setSettings(model.settings()); });
+
+    settings.separator = QStringLiteral("abcd");
+    model.setSettings(settings);
+    EXPECT_EQ(changes, 1);
+    model.limitSeparator();
+    EXPECT_EQ(changes, 2);
+    model.limitSeparator();
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(model.settings().separator, QStringLiteral("abc"));
 }
 
 TEST_F(GeneratorViewModelTest, StrengthFollowsTheEntropy)
