@@ -62,6 +62,9 @@ public:
             return;
         }
         qDBusRegisterMetaType<Settings>();
+        // QtDBus finds the types of a signal's parameters by name, and has not registered this one
+        // (Qt 6.4). Without the registration it drops the signal.
+        qRegisterMetaType<QDBusVariant>();
         connect(&m_portal, &PortalSettings::SettingChanged, this, &PortalAppearance::takeChange);
         constexpr int timeout = 5000;
         m_portal.setTimeout(timeout);
