@@ -5,51 +5,57 @@
 
 GeneratorError GeneratorError::lengthTooShort(std::int64_t minimumLength)
 {
-    return GeneratorError(LengthTooShort{minimumLength});
+    return GeneratorError(Kind::lengthTooShort, minimumLength);
 }
 
 GeneratorError GeneratorError::randomFailure(std::int32_t status)
 {
-    return GeneratorError(RandomFailure{status});
+    return GeneratorError(Kind::randomFailure, status);
 }
 
 GeneratorError GeneratorError::noCharacterSet()
 {
-    return GeneratorError(NoCharacterSet{});
+    return GeneratorError(Kind::noCharacterSet);
 }
 
 QString GeneratorError::errorDescription() const
 {
-    if (const auto length = minimumLength()) {
-        return QStringLiteral("Die Länge muss mindestens ") + QString::number(*length)
+    switch (m_kind) {
+    case Kind::lengthTooShort:
+        return QStringLiteral("Die Länge muss mindestens ") + QString::number(m_number)
                + QStringLiteral(" betragen, damit jede Gruppe vorkommen kann.");
-    }
-    if (randomStatus()) {
+    case Kind::randomFailure:
         return QStringLiteral(
             "Der sichere Zufallsgenerator von macOS konnte nicht verwendet werden.");
+    case Kind::noCharacterSet:
+        return QStringLiteral("Bitte mindestens eine Zeichengruppe aktivieren.");
     }
-    return QStringLiteral("Bitte mindestens eine Zeichengruppe aktivieren.");
+    Q_UNREACHABLE();
 }
 
 std::optional<std::int64_t> GeneratorError::minimumLength() const
 {
-    if (const auto* const tooShort = std::get_if<LengthTooShort>(&m_case))
-        return tooShort->minimumLength;
+    if (m_kind == Kind::lengthTooShort)
+        return m_number;
     return std::nullopt;
 }
 
 std::optional<std::int32_t> GeneratorError::randomStatus() const
 {
-    if (const auto* const failure = std::get_if<RandomFailure>(&m_case))
-        return failure->status;
+    if (m_kind == Kind::randomFailure)
+        return static_cast<std::int32_t>(m_number);
     return std::nullopt;
 }
 
 const char* GeneratorError::what() const noexcept
 {
-    if (std::holds_alternative<LengthTooShort>(m_case))
+    switch (m_kind) {
+    case Kind::lengthTooShort:
         return "lengthTooShort";
-    if (std::holds_alternative<RandomFailure>(m_case))
+    case Kind::randomFailure:
         return "randomFailure";
-    return "noCharacterSet";
+    case Kind::noCharacterSet:
+        return "noCharacterSet";
+    }
+    Q_UNREACHABLE();
 }

@@ -8,14 +8,12 @@
 #include <cstdint>
 #include <exception>
 #include <optional>
-#include <variant>
 
-/// Why a secret could not be generated. Thrown by value, and the only thing the generator throws.
+/// The reason why a secret could not be generated. The generator throws no other type.
 class GeneratorError final : public std::exception
 {
 public:
-    /// Fewer characters were asked for than groups that must occur; `minimumLength` would have
-    /// done.
+    /// The length is below the number of groups that must occur, which is `minimumLength`.
     [[nodiscard]] static GeneratorError lengthTooShort(std::int64_t minimumLength);
 
     /// The system's random source failed with `status`, which is not 0.
@@ -27,41 +25,30 @@ public:
     /// The German message for the user, never empty.
     [[nodiscard]] QString errorDescription() const;
 
-    /// The smallest length that would have been accepted, if this is `lengthTooShort`.
+    /// The smallest accepted length, if this is `lengthTooShort`.
     [[nodiscard]] std::optional<std::int64_t> minimumLength() const;
 
     /// The status that the system returned, if this is `randomFailure`.
     [[nodiscard]] std::optional<std::int32_t> randomStatus() const;
 
-    /// The name of the case, for whoever debugs; users are shown `errorDescription`.
+    /// The name of the kind of error, for debugging; users see `errorDescription`.
     [[nodiscard]] const char* what() const noexcept override;
 
     friend bool operator==(const GeneratorError& left, const GeneratorError& right)
     {
-        return left.m_case == right.m_case;
+        return left.m_kind == right.m_kind && left.m_number == right.m_number;
     }
 
 private:
-    struct LengthTooShort
-    {
-        std::int64_t minimumLength;
-        bool operator==(const LengthTooShort&) const = default;
-    };
-    struct RandomFailure
-    {
-        std::int32_t status;
-        bool operator==(const RandomFailure&) const = default;
-    };
-    struct NoCharacterSet
-    {
-        bool operator==(const NoCharacterSet&) const = default;
-    };
-    using Case = std::variant<LengthTooShort, RandomFailure, NoCharacterSet>;
+    enum class Kind : std::uint8_t { lengthTooShort, randomFailure, noCharacterSet };
 
-    explicit GeneratorError(Case errorCase)
-        : m_case(errorCase)
+    explicit GeneratorError(Kind kind, std::int64_t number = 0)
+        : m_kind(kind)
+        , m_number(number)
     {
     }
 
-    Case m_case;
+    Kind m_kind;
+    /// The minimum length or the status, as `m_kind` has one; else 0.
+    std::int64_t m_number;
 };
