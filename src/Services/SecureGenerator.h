@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Generates passwords and passphrases, every choice drawn from the system's random source:
+// Generates passwords and passphrases. Every choice is drawn from the system's random source:
 //
 //     const SecureGenerator generator;
 //     const QString secret = generator.generate(settings); // throws GeneratorError
@@ -20,20 +20,20 @@
 #include <string_view>
 #include <utility>
 
-/// The generation engine. An empty value: it keeps no seed, no buffer and no state between calls.
+/// The generation engine. An empty value without a seed, a buffer or state between calls.
 ///
-/// Errors of the caller (a non-positive bound, a negative word count, a length no memory can hold)
-/// stop the program.
+/// Errors of the caller (a non-positive bound, a negative word count, a length beyond the memory)
+/// abort the program.
 class SecureGenerator final
 {
 public:
-    /// The character groups of a password, in the order in which their characters are drawn from.
+    /// The character groups of a password, in the order in which a password draws from them.
     static constexpr std::string_view lowercase = "abcdefghijklmnopqrstuvwxyz";
     static constexpr std::string_view uppercase = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
     static constexpr std::string_view numbers = "0123456789";
     static constexpr std::string_view symbols = "!@#$%&*+-=?_~";
 
-    /// Characters that are easily taken for one another, also such as no group holds.
+    /// Look-alike characters. Some of them are in no group.
     static constexpr std::string_view ambiguous = "Il1O0o|`'\"";
 
     /// The words of a passphrase. Their order is part of the behaviour: "tau" stands before
@@ -51,27 +51,22 @@ public:
         "zeder",  "zeit",    "zirbe",   "zitrone",
     };
 
-    /// A fresh secret of the settings' mode. Throws `GeneratorError`, never returns a partial
-    /// result; the settings are taken as they are, without clamping.
+    /// Generates a secret of the settings' mode. Throws `GeneratorError` and never returns a
+    /// partial result. Does not clamp the settings to a range.
     [[nodiscard]] QString generate(const GeneratorSettings& settings) const;
 
-    /// The size in bits, 0 or more, of the space that the settings draw from: word count and number
-    /// for a passphrase, perceived characters of `text` times the groups' full sizes for a
-    /// password.
+    /// The estimated entropy in bits. For a passphrase, that of the settings' words and number,
+    /// which is negative for a negative word count; for a password, the number of grapheme clusters
+    /// of `text` times the bits of a character from all characters of the enabled groups.
     [[nodiscard]] double estimatedEntropy(const QString& text,
                                           const GeneratorSettings& settings) const;
 
     /// The rating of an entropy in bits: below 45 weak, below 65 fair, below 90 good, else strong.
     [[nodiscard]] PasswordStrength strength(double entropy) const;
 
-private:
-    friend struct SecureGeneratorAccess; // lets the tests reach the primitives
-
-    [[nodiscard]] QString password(const GeneratorSettings& settings) const;
-    [[nodiscard]] QString passphrase(const GeneratorSettings& settings) const;
-
-    /// An index drawn uniformly from 0 up to but not including `upperBound`, which is positive.
-    /// Throws `randomFailure`. One request of 8 bytes per draw; see the definition for the method.
+    /// An index drawn uniformly from 0 up to but not including `upperBound`, which is positive, by
+    /// rejection sampling (J. von Neumann, "Various Techniques Used in Connection with Random
+    /// Digits", 1951). Requests 8 random bytes per draw. Throws `randomFailure`.
     [[nodiscard]] std::int64_t secureIndex(std::int64_t upperBound) const;
 
     /// An element of `list`, which is not empty, drawn uniformly. Throws `randomFailure`.
@@ -81,9 +76,9 @@ private:
         return std::ranges::begin(list)[secureIndex(std::ranges::ssize(list))];
     }
 
-    /// Puts `list` in an order drawn uniformly from all orders: the shuffle of Fisher and Yates,
-    /// run from the end, one draw per element but the first. After a `randomFailure` the list is
-    /// left partly shuffled.
+    /// Puts `list` in an order drawn uniformly from all orders: the Fisher-Yates shuffle, from the
+    /// last element to the second, with one draw per element. Throws `randomFailure` and then
+    /// leaves the list partly shuffled.
     template<std::ranges::random_access_range List>
     void secureShuffle(List& list) const
     {
@@ -91,4 +86,8 @@ private:
         for (auto i = std::ranges::ssize(list) - 1; i >= 1; --i)
             std::swap(elements[i], elements[secureIndex(i + 1)]);
     }
+
+private:
+    [[nodiscard]] QString password(const GeneratorSettings& settings) const;
+    [[nodiscard]] QString passphrase(const GeneratorSettings& settings) const;
 };

@@ -5,7 +5,6 @@
 #include "Platform/SecureRandom.h"
 #include "Printing.h"
 #include "ScriptedRandom.h"
-#include "SecureGeneratorAccess.h"
 #include "Services/SecureGenerator.h"
 
 #include <gmock/gmock.h>
@@ -26,7 +25,7 @@
 static_assert(std::is_empty_v<SecureGenerator>);
 static_assert(std::is_trivially_copyable_v<SecureGenerator>);
 static_assert(noexcept(Platform::fillSecureRandom(std::span<std::byte>())));
-static_assert(std::is_same_v<decltype(SecureGeneratorAccess::secureIndex(1)), std::int64_t>);
+static_assert(std::is_same_v<decltype(SecureGenerator().secureIndex(1)), std::int64_t>);
 
 namespace {
 
@@ -41,21 +40,21 @@ constexpr auto highestBound = std::numeric_limits<std::int64_t>::max();
 TEST(SecureRandomIndex, CostsOneDrawEvenWithASingleChoice)
 {
     const ScriptedRandom random{highest - 1};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(1), 0);
+    EXPECT_EQ(SecureGenerator().secureIndex(1), 0);
     EXPECT_EQ(random.calls(), 1);
 }
 
 TEST(SecureRandomIndex, DrawsAgainAfterTheHighestValue)
 {
     const ScriptedRandom random{highest, 5};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(2), 1);
+    EXPECT_EQ(SecureGenerator().secureIndex(2), 1);
     EXPECT_EQ(random.calls(), 2);
 }
 
 TEST(SecureRandomIndex, DrawsAgainAsOftenAsItTakes)
 {
     const ScriptedRandom random{highest, highest, highest - 1, highest, 3};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(2), 1);
+    EXPECT_EQ(SecureGenerator().secureIndex(2), 1);
     EXPECT_EQ(random.calls(), 5);
 }
 
@@ -77,7 +76,7 @@ TEST_P(SecureRandomIndexThreshold, AcceptsTheValueBelow)
 {
     const auto& row = GetParam();
     const ScriptedRandom random{row.limit - 1};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(row.bound), row.lastIndex);
+    EXPECT_EQ(SecureGenerator().secureIndex(row.bound), row.lastIndex);
     EXPECT_EQ(random.calls(), 1);
 }
 
@@ -85,7 +84,7 @@ TEST_P(SecureRandomIndexThreshold, RejectsTheValueItself)
 {
     const auto& row = GetParam();
     const ScriptedRandom random{row.limit, 0};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(row.bound), 0);
+    EXPECT_EQ(SecureGenerator().secureIndex(row.bound), 0);
     EXPECT_EQ(random.calls(), 2);
 }
 
@@ -93,7 +92,7 @@ TEST_P(SecureRandomIndexThreshold, RejectsTheHighestValue)
 {
     const auto& row = GetParam();
     const ScriptedRandom random{highest, 0};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(row.bound), 0);
+    EXPECT_EQ(SecureGenerator().secureIndex(row.bound), 0);
     EXPECT_EQ(random.calls(), 2);
 }
 
@@ -120,7 +119,7 @@ TEST(SecureRandomIndex, RejectsAllSixteenTopValuesOfTwentySix)
 {
     for (std::uint64_t i = 0; i < 16; ++i) {
         const ScriptedRandom random{highest - i, 25};
-        EXPECT_EQ(SecureGeneratorAccess::secureIndex(26), 25) << i;
+        EXPECT_EQ(SecureGenerator().secureIndex(26), 25) << i;
         EXPECT_EQ(random.calls(), 2) << i;
     }
 }
@@ -128,14 +127,14 @@ TEST(SecureRandomIndex, RejectsAllSixteenTopValuesOfTwentySix)
 TEST(SecureRandomIndex, OfThreeWrapsASmallValueAfterARejectedOne)
 {
     const ScriptedRandom random{highest, 7};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(3), 1);
+    EXPECT_EQ(SecureGenerator().secureIndex(3), 1);
     EXPECT_EQ(random.calls(), 2);
 }
 
 TEST(SecureRandomIndex, OfThreeAcceptsTheSecondHighestValue)
 {
     const ScriptedRandom random{highest - 1};
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(3), 2);
+    EXPECT_EQ(SecureGenerator().secureIndex(3), 2);
     EXPECT_EQ(random.calls(), 1);
 }
 
@@ -146,7 +145,7 @@ class SecureRandomFailure : public testing::TestWithParam<std::int32_t>
 TEST_P(SecureRandomFailure, CarriesTheVeryStatus)
 {
     const ScriptedRandom random({}, FailsWith{GetParam()});
-    EXPECT_THAT([] { return SecureGeneratorAccess::secureIndex(10); },
+    EXPECT_THAT([] { return SecureGenerator().secureIndex(10); },
                 Throws<GeneratorError>(Eq(GeneratorError::randomFailure(GetParam()))));
     EXPECT_EQ(random.calls(), 1);
 }
@@ -162,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(All, SecureRandomFailure,
 TEST(SecureRandomFailure, EndsTheSearchForAnAcceptableValue)
 {
     const ScriptedRandom random({highest, highest}, FailsWith{-7});
-    EXPECT_THAT([] { return SecureGeneratorAccess::secureIndex(10); },
+    EXPECT_THAT([] { return SecureGenerator().secureIndex(10); },
                 Throws<GeneratorError>(Eq(GeneratorError::randomFailure(-7))));
     EXPECT_EQ(random.calls(), 3);
 }
@@ -174,8 +173,7 @@ class SecureRandomIndexDeathTest : public testing::TestWithParam<std::int64_t>
 TEST_P(SecureRandomIndexDeathTest, StopsTheProgramBeforeAnyDraw)
 {
     const ScriptedRandom random{};
-    EXPECT_DEATH(static_cast<void>(SecureGeneratorAccess::secureIndex(GetParam())),
-                 "SecureGenerator");
+    EXPECT_DEATH(static_cast<void>(SecureGenerator().secureIndex(GetParam())), "SecureGenerator");
 }
 
 INSTANTIATE_TEST_SUITE_P(NonPositive, SecureRandomIndexDeathTest,
@@ -189,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(NonPositive, SecureRandomIndexDeathTest,
 TEST(SecurePick, OfASingleElementCostsOneDraw)
 {
     const ScriptedRandom random{12345};
-    EXPECT_EQ(SecureGeneratorAccess::pick(std::array{7}), 7);
+    EXPECT_EQ(SecureGenerator().pick(std::array{7}), 7);
     EXPECT_EQ(random.calls(), 1);
 }
 
@@ -197,31 +195,30 @@ TEST(SecurePick, TakesTheElementAtTheDrawnIndex)
 {
     const std::vector<std::string> list{"a", "b", "c"};
     const ScriptedRandom random{2, 0, 1, 3};
-    EXPECT_EQ(SecureGeneratorAccess::pick(list), "c");
-    EXPECT_EQ(SecureGeneratorAccess::pick(list), "a");
-    EXPECT_EQ(SecureGeneratorAccess::pick(list), "b");
-    EXPECT_EQ(SecureGeneratorAccess::pick(list), "a");
+    EXPECT_EQ(SecureGenerator().pick(list), "c");
+    EXPECT_EQ(SecureGenerator().pick(list), "a");
+    EXPECT_EQ(SecureGenerator().pick(list), "b");
+    EXPECT_EQ(SecureGenerator().pick(list), "a");
 }
 
 TEST(SecurePick, PassesAFailureOn)
 {
     const ScriptedRandom random({}, FailsWith{-3});
-    EXPECT_THAT([] { return SecureGeneratorAccess::pick(std::array{7, 8}); },
+    EXPECT_THAT([] { return SecureGenerator().pick(std::array{7, 8}); },
                 Throws<GeneratorError>(Eq(GeneratorError::randomFailure(-3))));
 }
 
 TEST(SecurePickDeathTest, StopsTheProgramOnAnEmptyList)
 {
     const ScriptedRandom random{};
-    EXPECT_DEATH(static_cast<void>(SecureGeneratorAccess::pick(std::vector<int>())),
-                 "SecureGenerator");
+    EXPECT_DEATH(static_cast<void>(SecureGenerator().pick(std::vector<int>())), "SecureGenerator");
 }
 
 TEST(SecureShuffle, LeavesAnEmptyListWithoutADraw)
 {
     const ScriptedRandom random{};
     std::vector<int> list;
-    SecureGeneratorAccess::secureShuffle(list);
+    SecureGenerator().secureShuffle(list);
     EXPECT_THAT(list, ElementsAre());
     EXPECT_EQ(random.calls(), 0);
 }
@@ -230,7 +227,7 @@ TEST(SecureShuffle, LeavesASingleElementWithoutADraw)
 {
     const ScriptedRandom random{};
     std::vector list{7};
-    SecureGeneratorAccess::secureShuffle(list);
+    SecureGenerator().secureShuffle(list);
     EXPECT_THAT(list, ElementsAre(7));
     EXPECT_EQ(random.calls(), 0);
 }
@@ -250,7 +247,7 @@ TEST_P(SecureShuffleOfTwo, CostsOneDrawOfTwo)
 {
     const ScriptedRandom random{GetParam().drawn};
     std::vector list{7, 8};
-    SecureGeneratorAccess::secureShuffle(list);
+    SecureGenerator().secureShuffle(list);
     EXPECT_EQ(list, GetParam().order);
     EXPECT_EQ(random.calls(), 1);
 }
@@ -277,7 +274,7 @@ TEST_P(SecureShuffleOfFive, SwapsFromTheEndToTheFront)
 {
     const ScriptedRandom random(GetParam().drawn);
     std::string list = "abcde";
-    SecureGeneratorAccess::secureShuffle(list);
+    SecureGenerator().secureShuffle(list);
     EXPECT_EQ(list, GetParam().order);
     EXPECT_EQ(random.calls(), 4);
 }
@@ -296,7 +293,7 @@ TEST(SecureShuffle, ReachesEveryOrderByExactlyOneScript)
     for (std::uint64_t i = 0; i < 24; ++i) {
         const ScriptedRandom random{i / 6, i % 6 / 2, i % 2};
         std::string list = "abcd";
-        SecureGeneratorAccess::secureShuffle(list);
+        SecureGenerator().secureShuffle(list);
         EXPECT_TRUE(std::ranges::is_permutation(list, std::string("abcd"))) << list;
         orders.insert(list);
     }
@@ -307,7 +304,7 @@ TEST(SecureShuffle, KeepsTheSwapsMadeBeforeAFailure)
 {
     const ScriptedRandom random({0}, FailsWith{-9});
     std::string list = "abcd";
-    EXPECT_THAT([&list] { SecureGeneratorAccess::secureShuffle(list); },
+    EXPECT_THAT([&list] { SecureGenerator().secureShuffle(list); },
                 Throws<GeneratorError>(Eq(GeneratorError::randomFailure(-9))));
     EXPECT_EQ(list, "dbca");
     EXPECT_EQ(random.calls(), 2);

@@ -7,7 +7,7 @@
 #include "Model/GeneratorError.h"
 #include "Platform/SecureRandom.h"
 #include "Printing.h"
-#include "SecureGeneratorAccess.h"
+#include "Services/SecureGenerator.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -206,7 +206,7 @@ TEST_F(SystemRandom, IsAskedForEightBytesPerDraw)
 TEST_F(SystemRandom, IsReadInTheMachinesByteOrder)
 {
     answerWith({{.filled = 8, .error = 0}});
-    EXPECT_EQ(SecureGeneratorAccess::secureIndex(0x7fff'ffff'ffff'ffff),
+    EXPECT_EQ(SecureGenerator().secureIndex(0x7fff'ffff'ffff'ffff),
               static_cast<std::int64_t>(0xa5a5'a5a5'a5a5'a5a5U % 0x7fff'ffff'ffff'ffffU));
 }
 

@@ -6,7 +6,7 @@
 
 #include "ChiSquare.h"
 #include "Printing.h"
-#include "SecureGeneratorAccess.h"
+#include "Services/SecureGenerator.h"
 
 #include <gtest/gtest.h>
 
@@ -112,7 +112,7 @@ TEST_P(IndexUniformity, HoldsForTheSecureIndex)
 {
     Counts counts(cell(GetParam()));
     for (std::int64_t i = 0; i < draws; ++i)
-        ++counts.at(cell(SecureGeneratorAccess::secureIndex(GetParam())));
+        ++counts.at(cell(SecureGenerator().secureIndex(GetParam())));
     EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance)
         << "statistic " << ChiSquare::statistic(counts);
 }
@@ -125,7 +125,7 @@ TEST(ShuffleUniformity, HoldsForAllOrdersOfFourElements)
     Counts counts(24);
     for (std::int64_t i = 0; i < 3'600'000; ++i) {
         std::string order = "abcd";
-        SecureGeneratorAccess::secureShuffle(order);
+        SecureGenerator().secureShuffle(order);
         ++counts.at(permutationNumber(order));
     }
     EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance)
