@@ -6,11 +6,13 @@
 #include <chrono>
 #include <functional>
 
-/// The clock that only ever runs forward, and goes on while the machine sleeps.
+/// A monotonic clock that continues while the machine is suspended.
 namespace Platform::ContinuousClock {
 
-/// Calls `task` once on the calling thread's event loop, when `wait` (0 or more) has passed or, if
-/// the machine was asleep then, as soon as it is awake. Nothing cancels it but the program's end.
+/// Calls `task` once from the application's event loop, when `wait` (0 or more) has passed or, if
+/// the machine was suspended then, as soon as it resumes. Tasks run in the order of their
+/// deadlines. A task that is pending when the application ends is dropped. Belongs on the
+/// user-interface thread.
 void after(std::chrono::milliseconds wait, std::function<void()> task);
 
 } // namespace Platform::ContinuousClock

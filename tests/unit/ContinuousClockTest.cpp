@@ -3,8 +3,6 @@
 
 #include "Platform/ContinuousClock.h"
 
-#include "Platform/ContinuousTimer.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -15,6 +13,7 @@
 #include <cerrno>
 #include <chrono>
 #include <ctime>
+#include <optional>
 #include <vector>
 
 #include <sys/syscall.h>
@@ -24,10 +23,21 @@
 namespace {
 
 bool hasTimersLeft = true;
+std::optional<timespec> stoppedBootTime;
 
 } // namespace
 
-/// In place of the C library's own, so that it can fail.
+/// Replaces the C library's function, so that the boot time can be stopped.
+extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
+{
+    if (clock == CLOCK_BOOTTIME && stoppedBootTime) {
+        *time = *stoppedBootTime;
+        return 0;
+    }
+    return static_cast<int>(::syscall(SYS_clock_gettime, clock, time));
+}
+
+/// Replaces the C library's function, so that it can fail.
 extern "C" int timerfd_create(clockid_t clock, int flags) noexcept
 {
     if (hasTimersLeft)
@@ -38,7 +48,7 @@ extern "C" int timerfd_create(clockid_t clock, int flags) noexcept
 
 namespace {
 
-using Platform::ContinuousTimer;
+namespace ContinuousClock = Platform::ContinuousClock;
 using std::chrono::milliseconds;
 using std::chrono::nanoseconds;
 using std::chrono::steady_clock;
@@ -82,7 +92,7 @@ private:
 TEST_F(ContinuousClockTest, CountsTimeAsleep)
 {
     ASSERT_THAT(clocksOfTimers(), IsEmpty());
-    const ContinuousTimer timer(std::chrono::seconds(30));
+    ContinuousClock::after(std::chrono::seconds(30), [] {});
     EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
 }
 
@@ -91,7 +101,7 @@ TEST_F(ContinuousClockTest, RunsTheTaskOnceWhenDue)
     bool done = false;
     int runs = 0;
     const auto start = steady_clock::now();
-    Platform::ContinuousClock::after(milliseconds(30), [&] {
+    ContinuousClock::after(milliseconds(30), [&] {
         ++runs;
         done = true;
     });
@@ -100,7 +110,7 @@ TEST_F(ContinuousClockTest, RunsTheTaskOnceWhenDue)
     EXPECT_GE(steady_clock::now() - start, milliseconds(30));
 
     bool later = false;
-    Platform::ContinuousClock::after(milliseconds(30), [&] { later = true; });
+    ContinuousClock::after(milliseconds(30), [&] { later = true; });
     runUntil(later);
     EXPECT_EQ(runs, 1);
 }
@@ -108,7 +118,7 @@ TEST_F(ContinuousClockTest, RunsTheTaskOnceWhenDue)
 TEST_F(ContinuousClockTest, LeavesNoTimerBehind)
 {
     bool done = false;
-    Platform::ContinuousClock::after(milliseconds(0), [&] { done = true; });
+    ContinuousClock::after(milliseconds(0), [&] { done = true; });
     runUntil(done);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_THAT(clocksOfTimers(), IsEmpty());
@@ -118,14 +128,56 @@ TEST_F(ContinuousClockTest, WaitsDoNotDisturbEachOther)
 {
     std::vector<int> order;
     bool done = false;
-    Platform::ContinuousClock::after(milliseconds(60), [&] {
+    ContinuousClock::after(milliseconds(60), [&] {
         order.push_back(60);
         done = true;
     });
-    Platform::ContinuousClock::after(milliseconds(10), [&] { order.push_back(10); });
-    Platform::ContinuousClock::after(milliseconds(30), [&] { order.push_back(30); });
+    ContinuousClock::after(milliseconds(10), [&] { order.push_back(10); });
+    ContinuousClock::after(milliseconds(30), [&] { order.push_back(30); });
     runUntil(done);
     EXPECT_THAT(order, ElementsAre(10, 30, 60));
+}
+
+TEST_F(ContinuousClockTest, RunsTasksOfTheSameDeadlineInTheOrderOfTheCalls)
+{
+    std::vector<int> order;
+    bool done = false;
+    timespec now{};
+    ASSERT_EQ(clock_gettime(CLOCK_BOOTTIME, &now), 0);
+    stoppedBootTime = now;
+    for (const int number : {1, 2, 3})
+        ContinuousClock::after(milliseconds(10), [&order, number] { order.push_back(number); });
+    ContinuousClock::after(milliseconds(10), [&] { done = true; });
+    stoppedBootTime.reset();
+    runUntil(done);
+    EXPECT_THAT(order, ElementsAre(1, 2, 3));
+}
+
+TEST_F(ContinuousClockTest, HoldsOneTimerForAllPendingTasks)
+{
+    bool done = false;
+    for (int i = 0; i < 100; ++i)
+        ContinuousClock::after(std::chrono::hours(1), [] {});
+    ContinuousClock::after(milliseconds(10), [&] { done = true; });
+    EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
+    runUntil(done);
+    EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
+}
+
+TEST_F(ContinuousClockTest, ATaskCanAddTasks)
+{
+    std::vector<int> order;
+    bool done = false;
+    ContinuousClock::after(milliseconds(10), [&] {
+        order.push_back(10);
+        ContinuousClock::after(milliseconds(0), [&] { order.push_back(0); });
+        ContinuousClock::after(milliseconds(30), [&] {
+            order.push_back(30);
+            done = true;
+        });
+    });
+    runUntil(done);
+    EXPECT_THAT(order, ElementsAre(10, 0, 30));
 }
 
 TEST_F(ContinuousClockTest, WaitsEvenWhereTheSystemHasNoTimerLeft)
@@ -133,8 +185,7 @@ TEST_F(ContinuousClockTest, WaitsEvenWhereTheSystemHasNoTimerLeft)
     hasTimersLeft = false;
     bool done = false;
     const auto start = steady_clock::now();
-    Platform::ContinuousClock::after(milliseconds(30), [&] { done = true; });
-    EXPECT_LT(ContinuousTimer(milliseconds(1)).descriptor(), 0);
+    ContinuousClock::after(milliseconds(30), [&] { done = true; });
     hasTimersLeft = true;
     EXPECT_THAT(clocksOfTimers(), IsEmpty());
     runUntil(done);
@@ -143,7 +194,7 @@ TEST_F(ContinuousClockTest, WaitsEvenWhereTheSystemHasNoTimerLeft)
 
 TEST_F(ContinuousClockTest, ForgetsWhatIsPendingAtTheEnd)
 {
-    Platform::ContinuousClock::after(std::chrono::hours(1), [] { FAIL() << "at the end"; });
+    ContinuousClock::after(std::chrono::hours(1), [] { FAIL() << "at the end"; });
     EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
 }
 
