@@ -3,18 +3,18 @@
 
 #pragma once
 
-/// Takes from this process, for good, what it has no need of, so that it cannot store or send
-/// anything even through a fault in a library. What is refused fails with an error, and nothing is
-/// refused where the system has no means for it.
+/// Restrictions of this process that cannot be lifted again, so that even a fault in a library does
+/// not let the process store or send data. A refused operation fails with an error. Where the
+/// system has no such restrictions, the functions do nothing.
 namespace Platform::Sandbox {
 
-/// From now on no file can be written, created, renamed, removed or executed, but for the devices
-/// that a display needs. Binds the calling thread and those that it starts: to be called before
-/// there is a second one.
+/// Refuses to write, create, rename, remove or execute any file, except for the devices that a
+/// display needs. Restricts the calling thread and the threads that it starts later, so the program
+/// calls this before it starts a thread.
 void restrictFilesystem() noexcept;
 
-/// From now on no thread can open a socket that leaves the machine, start a program, or look into
-/// another process.
+/// Refuses all threads of the process to open a socket that leaves the machine, to start a program
+/// or to examine another process.
 void installSyscallFilter() noexcept;
 
 } // namespace Platform::Sandbox

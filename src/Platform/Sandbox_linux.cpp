@@ -22,105 +22,62 @@ namespace Platform::Sandbox {
 
 namespace {
 
-/// Closes what it holds.
-class Descriptor final
-{
-public:
-    explicit Descriptor(long number)
-        : m_number(static_cast<int>(number))
-    {
-    }
-    ~Descriptor()
-    {
-        if (isOpen())
-            ::close(m_number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor(Descriptor&&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
-
-    [[nodiscard]] bool isOpen() const { return m_number >= 0; }
-    [[nodiscard]] int number() const { return m_number; }
-
-private:
-    int m_number;
-};
-
-// Reading stays open: fonts, icons, translations and plugins lie anywhere, and much of it is read
-// only once it is needed.
+// Reading is not refused: libraries read fonts, icons, translations and plugins from many folders
+// and at any time.
 constexpr std::uint64_t changesOfFiles
     = LANDLOCK_ACCESS_FS_EXECUTE | LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR
       | LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_MAKE_CHAR | LANDLOCK_ACCESS_FS_MAKE_DIR
       | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO
       | LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
 
-/// What the kernel has been able to refuse since a later version of Landlock.
-struct LaterChange
-{
-    long version;
-    std::uint64_t access;
-};
-
-// Headers older than the kernel do not name them all.
-constexpr std::uint64_t renamingIntoAnotherFolder = 1U << 13U;
+// Landlock 2 and 3 added these kinds of access, which older headers do not name.
+constexpr std::uint64_t movingToAnotherFolder = 1U << 13U;
 constexpr std::uint64_t truncating = 1U << 14U;
-constexpr std::array<LaterChange, 2> laterChanges{{
-    {2, renamingIntoAnotherFolder},
-    {3, truncating},
-}};
 
-struct OpenPath
-{
-    const char* path;
-    std::uint64_t access;
+constexpr std::array writableDevices{
+    // On Wayland, Qt 6.4 loads a graphics driver even for the software renderer. Mesa's drivers
+    // print a warning if they cannot open the device.
+    "/dev/dri",
+    // Libraries write discarded output to /dev/null.
+    "/dev/null",
 };
 
-constexpr std::array<OpenPath, 2> openPaths{{
-    // On Wayland, Qt 6.4 starts a graphics driver whether it draws with it or not, and Mesa's
-    // complain on standard error where they may not open their device.
-    {"/dev/dri", LANDLOCK_ACCESS_FS_WRITE_FILE},
-    // Where libraries leave what nobody wants.
-    {"/dev/null", LANDLOCK_ACCESS_FS_WRITE_FILE},
-}};
+// NOLINTBEGIN(cppcoreguidelines-pro-type-vararg): the C library has no functions for these calls
 
-// NOLINTBEGIN(cppcoreguidelines-pro-type-vararg): the C library has no functions for these yet
-
-long createRuleset(const landlock_ruleset_attr* changes, std::size_t size, unsigned int flags)
+int createRuleset(const landlock_ruleset_attr* attributes, std::size_t size, unsigned int flags)
 {
-    return ::syscall(SYS_landlock_create_ruleset, changes, size, flags);
+    return static_cast<int>(::syscall(SYS_landlock_create_ruleset, attributes, size, flags));
 }
 
-void addRule(const Descriptor& ruleset, const landlock_path_beneath_attr& rule)
+void allowWriting(int ruleset, const char* device)
 {
-    ::syscall(SYS_landlock_add_rule, ruleset.number(), LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
+    const int descriptor = ::open(device, O_PATH | O_CLOEXEC);
+    if (descriptor < 0) // A device that is missing needs no rule.
+        return;
+    landlock_path_beneath_attr rule{};
+    rule.allowed_access = LANDLOCK_ACCESS_FS_WRITE_FILE;
+    rule.parent_fd = descriptor;
+    ::syscall(SYS_landlock_add_rule, ruleset, LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
+    ::close(descriptor);
 }
 
-void restrictSelf(const Descriptor& ruleset)
+void restrictSelf(int ruleset)
 {
-    // Without this the kernel lets nobody but root confine itself.
+    // Without this flag, only privileged processes may restrict themselves.
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0)
-        ::syscall(SYS_landlock_restrict_self, ruleset.number(), 0);
-}
-
-Descriptor openedAsPlace(const char* path)
-{
-    return Descriptor(::open(path, O_PATH | O_CLOEXEC));
+        ::syscall(SYS_landlock_restrict_self, ruleset, 0);
 }
 
 // NOLINTEND(cppcoreguidelines-pro-type-vararg)
 
-std::uint64_t changesKnownToKernel()
+/// The changes that this kernel can refuse; none without Landlock.
+std::uint64_t refusableChanges()
 {
-    const long version = createRuleset(nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
+    const int version = createRuleset(nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
         return 0;
-    std::uint64_t changes = changesOfFiles;
-    for (const LaterChange& later : laterChanges) {
-        if (version >= later.version)
-            changes |= later.access;
-    }
-    return changes;
+    return changesOfFiles | (version >= 2 ? movingToAnotherFolder : 0)
+           | (version >= 3 ? truncating : 0);
 }
 
 struct FilterReleaser
@@ -129,7 +86,7 @@ struct FilterReleaser
 };
 using Filter = std::unique_ptr<void, FilterReleaser>;
 
-/// What nothing in this program has a use for.
+// The program has no use for these system calls.
 constexpr std::array<int, 9> refusedCalls{
     SCMP_SYS(execve),
     SCMP_SYS(execveat),
@@ -137,28 +94,29 @@ constexpr std::array<int, 9> refusedCalls{
     SCMP_SYS(process_vm_readv),
     SCMP_SYS(process_vm_writev),
     SCMP_SYS(pidfd_getfd),
-    // Opens sockets past every filter.
+    // io_uring opens sockets without a system call that the filter sees.
     SCMP_SYS(io_uring_setup),
-    // Text beside a file's contents, which Landlock does not know of.
+    // Landlock does not cover extended attributes, which can hold text.
     SCMP_SYS(setxattr),
     SCMP_SYS(lsetxattr),
 };
 
-// The display, D-Bus and the accessibility bus are reached through UNIX sockets, and libraries ask
-// the kernel for the devices that there are.
-constexpr std::uint32_t openFamilies = AF_UNIX | AF_NETLINK;
-static_assert(std::popcount(openFamilies) == 2, "each family is one bit");
+// The display, D-Bus and the accessibility bus use UNIX sockets, and libraries list devices through
+// netlink sockets.
+constexpr std::uint32_t allowedFamilies = AF_UNIX | AF_NETLINK;
+static_assert(std::popcount(allowedFamilies) == 2, "each allowed family is a single bit");
 
-/// Every other family has a bit that these two lack, or both of theirs.
+/// Refuses sockets of all other families. A rule compares an argument only once, so no rule can
+/// exclude both allowed families. Each other family has either both of their bits or a third one.
 void refuseOtherSockets(scmp_filter_ctx filter)
 {
     const auto refuse = [filter](std::uint32_t bits) {
         const scmp_arg_cmp family{0, SCMP_CMP_MASKED_EQ, bits, bits};
         seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(EAFNOSUPPORT), SCMP_SYS(socket), 1, &family);
     };
-    refuse(openFamilies);
+    refuse(allowedFamilies);
     for (std::uint32_t bit = 1; bit != 0; bit <<= 1U) {
-        if ((bit & openFamilies) == 0)
+        if ((bit & allowedFamilies) == 0)
             refuse(bit);
     }
 }
@@ -167,24 +125,18 @@ void refuseOtherSockets(scmp_filter_ctx filter)
 
 void restrictFilesystem() noexcept
 {
-    // The kernel headers have more members since 6.7, and these stay zero.
-    landlock_ruleset_attr changes{};
-    changes.handled_access_fs = changesKnownToKernel();
-    if (changes.handled_access_fs == 0)
+    // Kernel headers from 6.7 on declare more members, which stay zero.
+    landlock_ruleset_attr attributes{};
+    attributes.handled_access_fs = refusableChanges();
+    if (attributes.handled_access_fs == 0)
         return;
-    const Descriptor ruleset(createRuleset(&changes, sizeof(changes), 0));
-    if (!ruleset.isOpen())
+    const int ruleset = createRuleset(&attributes, sizeof(attributes), 0);
+    if (ruleset < 0)
         return;
-    for (const OpenPath& open : openPaths) {
-        const Descriptor place = openedAsPlace(open.path);
-        if (!place.isOpen()) // What is not there needs no permission.
-            continue;
-        landlock_path_beneath_attr rule{};
-        rule.allowed_access = open.access & changes.handled_access_fs;
-        rule.parent_fd = place.number();
-        addRule(ruleset, rule);
-    }
+    for (const char* const device : writableDevices)
+        allowWriting(ruleset, device);
     restrictSelf(ruleset);
+    ::close(ruleset);
 }
 
 void installSyscallFilter() noexcept
@@ -192,7 +144,8 @@ void installSyscallFilter() noexcept
     const Filter filter(seccomp_init(SCMP_ACT_ALLOW));
     if (!filter)
         return;
-    // A call in the manner of another architecture would pass by all rules, and must not kill.
+    // The rules do not match the calls of another architecture (32-bit on x86-64), and the default
+    // action for those is to kill the process.
     seccomp_attr_set(filter.get(), SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_ERRNO(ENOSYS));
     seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1);
     refuseOtherSockets(filter.get());

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// For builds that leave the sandbox to others: a bundle's entitlements, or a test that shows
-// what the program does by itself.
+// For builds without a sandbox of their own: macOS restricts a bundle by its entitlements, and
+// tests observe the program without restrictions.
 
 #include "Platform/Sandbox.h"
 
