@@ -7,21 +7,21 @@
 
 #include <cstdint>
 
-/// The system-wide clipboard. Without one at hand, writing and clearing have no effect. All calls
-/// belong on the user-interface thread.
+/// The system-wide clipboard. Where the system has none, writing and clearing have no effect.
+/// Belongs on the user-interface thread.
 namespace Platform::Clipboard {
 
-/// Replaces the contents by `text`, as plain text and nothing else. Programs that keep a history of
-/// the clipboard are told that it is a secret, where the system has a way to tell them.
+/// Replaces the contents by `text` as plain text only, marked as a secret for the programs that
+/// keep a clipboard history, where the system has such a mark.
 void setSecret(const QString& text);
 
-/// Empties the clipboard. Where a desktop refuses that to a program in the background, the offer
-/// stays with nothing in it until the user returns to this program. Contents that are brought back
-/// are cleared again then.
+/// Empties the clipboard. Where the desktop does not let a background program empty it, the program
+/// offers empty contents until the user returns to it, and then empties the clipboard, also if the
+/// desktop has restored the secret meanwhile.
 void clear();
 
-/// A counter that rises with every write of this program, this interface's or another's, and as
-/// soon as another program replaces what was written through here.
+/// A counter that increases with every write through this interface, and when another program
+/// replaces what this interface wrote.
 [[nodiscard]] std::int64_t changeCount();
 
 } // namespace Platform::Clipboard

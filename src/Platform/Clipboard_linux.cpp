@@ -24,7 +24,7 @@ std::unique_ptr<QMimeData> secretContents(const QString& text)
 {
     auto contents = std::make_unique<QMimeData>();
     contents->setText(text);
-    // Not another form of the text, but the mark by which clipboard managers know to leave it.
+    // Clipboard managers do not store contents that offer this type with this value.
     contents->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
     return contents;
 }
@@ -34,48 +34,50 @@ bool isX11()
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-QByteArray fingerprint(const QString& text)
+QByteArray hash(const QString& text)
 {
     return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
 }
 
-/// Neither X11 nor Wayland counts the changes of the clipboard, and Qt tells of some of them more
-/// than once, and of changes that are none. What can be relied on is whose contents it holds. So a
-/// change is what is written through here, and every loss of it.
+/// Counts the changes of the clipboard. X11 and Wayland have no counter, and
+/// QClipboard::dataChanged is emitted more than once for some changes and also without a change.
+/// The owner of the contents is reliable, so a change is a write through this class, or the loss of
+/// the contents that it wrote.
 class CountedClipboard final : public QObject
 {
 public:
     explicit CountedClipboard(QObject* parent)
         : QObject(parent)
     {
-        connect(m_clipboard, &QClipboard::dataChanged, this, [this] { noticeLoss(); });
-        m_soon.setSingleShot(true);
-        connect(&m_soon, &QTimer::timeout, this, [this] { clearAgain(); });
+        connect(m_clipboard, &QClipboard::dataChanged, this, [this] { handleDataChange(); });
+        m_clearAgainTimer.setSingleShot(true);
+        connect(&m_clearAgainTimer, &QTimer::timeout, this, [this] { clearAgain(); });
     }
 
     [[nodiscard]] std::int64_t changeCount() const { return m_changeCount; }
 
     void setSecret(const QString& text)
     {
-        stopWatching();
+        stopWaitingForReturn();
         auto contents = secretContents(text);
         replaceContents(contents.get());
-        m_written = fingerprint(text);
+        m_secretHash = hash(text);
         m_clipboard->setMimeData(contents.release());
     }
 
     void clear()
     {
         if (m_contents && !isX11() && !QGuiApplication::focusWindow()) {
-            // Without the keyboard, compositors refuse a change, and some put back their own copy
-            // when what was offered is gone. So it stays, with nothing left of it.
+            // Compositors let a window change the clipboard only while it has the keyboard focus,
+            // and some restore a copy of their own once the offered contents are gone. So the
+            // contents remain on offer, but empty.
             m_contents->clear();
-            m_hollow = m_contents;
+            m_emptiedContents = m_contents;
             replaceContents(nullptr);
         } else {
-            empty();
+            emptyClipboard();
         }
-        watchForReturn();
+        startWaitingForReturn();
     }
 
 protected:
@@ -85,8 +87,9 @@ protected:
         case QEvent::ApplicationActivate:
         case QEvent::KeyPress:
         case QEvent::MouseButtonPress:
-            // Later, when Qt has taken note of this event: a compositor asks for its number.
-            m_soon.start();
+            // The timer runs after Qt has handled the event, because the request to the compositor
+            // carries the event's serial number.
+            m_clearAgainTimer.start();
             break;
         default:
             break;
@@ -98,69 +101,69 @@ private:
     void replaceContents(QMimeData* contents)
     {
         m_contents = contents;
-        m_holdsOurs = contents != nullptr;
+        m_ownsContents = contents != nullptr;
         ++m_changeCount;
     }
 
-    void empty()
+    void emptyClipboard()
     {
         replaceContents(nullptr);
         if (isX11()) {
-            // Left to nobody, it would be filled again by managers that keep a copy.
+            // Clipboard managers restore their copy to a clipboard without an owner.
             m_clipboard->setMimeData(std::make_unique<QMimeData>().release());
         } else {
-            // What a compositor puts back is the last text that there was.
+            // Compositors restore the last text, which is the empty one now.
             m_clipboard->setText(QStringLiteral(""));
             m_clipboard->clear();
         }
     }
 
-    void noticeLoss()
+    void handleDataChange()
     {
-        if (m_holdsOurs && (!m_contents || m_clipboard->mimeData() != m_contents))
+        if (m_ownsContents && (!m_contents || m_clipboard->mimeData() != m_contents))
             replaceContents(nullptr);
     }
 
-    void watchForReturn()
+    void startWaitingForReturn()
     {
-        if (!m_written.isEmpty())
+        if (!m_secretHash.isEmpty())
             QCoreApplication::instance()->installEventFilter(this);
     }
 
-    void stopWatching()
+    void stopWaitingForReturn()
     {
         QCoreApplication::instance()->removeEventFilter(this);
-        m_written.clear();
+        m_secretHash.clear();
     }
 
     void clearAgain()
     {
-        if (m_written.isEmpty())
+        if (m_secretHash.isEmpty())
             return;
-        if (isStillThere())
-            empty();
+        if (isSecretStillThere())
+            emptyClipboard();
         else
-            stopWatching();
+            stopWaitingForReturn();
     }
 
-    /// Whether it was hollowed out only, or brought back.
-    [[nodiscard]] bool isStillThere() const
+    /// Whether the clipboard still offers the emptied contents, or the secret was restored to it.
+    [[nodiscard]] bool isSecretStillThere() const
     {
         if (m_clipboard->ownsClipboard())
-            return m_hollow && m_clipboard->mimeData() == m_hollow;
-        return fingerprint(m_clipboard->text()) == m_written;
+            return m_emptiedContents && m_clipboard->mimeData() == m_emptiedContents;
+        return hash(m_clipboard->text()) == m_secretHash;
     }
 
     QClipboard* const m_clipboard = QGuiApplication::clipboard();
     std::int64_t m_changeCount = 0;
-    /// What the clipboard holds of ours. Compared, never looked into.
+    /// The contents that this class wrote. Only the address is used.
     QPointer<QMimeData> m_contents;
-    bool m_holdsOurs = false;
-    /// What it offers of ours without anything in it.
-    QPointer<const QMimeData> m_hollow;
-    /// Tells what was written last from all else, without keeping it.
-    QByteArray m_written;
-    QTimer m_soon;
+    bool m_ownsContents = false;
+    /// The contents that this class wrote and then emptied while they remained on offer.
+    QPointer<const QMimeData> m_emptiedContents;
+    /// Identifies the secret that was written last, without keeping the secret.
+    QByteArray m_secretHash;
+    QTimer m_clearAgainTimer;
 };
 
 } // namespace

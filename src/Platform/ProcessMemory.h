@@ -6,19 +6,18 @@
 #include <cstddef>
 #include <span>
 
-/// The memory of this process, in which secrets lie while it runs.
+/// The memory of this process, which holds secrets.
 namespace Platform::ProcessMemory {
 
-// The first two do nothing in builds with assertions, which are there to be debugged.
-
-/// Keeps it out of core dumps.
+/// Excludes the memory from core dumps. Does nothing in builds with assertions, which are for
+/// debugging.
 void keepFromDumps() noexcept;
 
-/// Keeps it out of reach of debuggers and of other programs of the user, who can also see less of
-/// the process from then on.
+/// Denies debuggers and other programs of the user access to the memory and to most of the
+/// process's entries in /proc. Does nothing in builds with assertions, which are for debugging.
 void hide() noexcept;
 
-/// Overwrites bytes with zeros, also where a compiler sees that nobody reads them again.
+/// Overwrites `bytes` with zeros. The compiler does not optimise the writes away.
 void wipe(std::span<std::byte> bytes) noexcept;
 
 } // namespace Platform::ProcessMemory

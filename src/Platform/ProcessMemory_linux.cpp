@@ -12,7 +12,7 @@ namespace Platform::ProcessMemory {
 void hide() noexcept
 {
 #ifdef NDEBUG
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): it has no other form
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): prctl has no other form
     ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 #endif
 }
