@@ -19,7 +19,7 @@ public:
     /// The system's random source failed with `status`, which is not 0.
     [[nodiscard]] static GeneratorError randomFailure(std::int32_t status);
 
-    /// No character group is switched on.
+    /// No character group is enabled.
     [[nodiscard]] static GeneratorError noCharacterSet();
 
     /// The German message for the user, never empty.

@@ -10,14 +10,14 @@
 #include <cstdint>
 #include <optional>
 
-/// Which kind of secret is generated.
+/// The kind of secret that is generated.
 enum class GeneratorMode : std::uint8_t { password, passphrase };
 
-/// Every mode, in the order in which a choice shows them.
+/// All modes, in the order in which the user interface lists them.
 inline constexpr std::array allGeneratorModes{GeneratorMode::password, GeneratorMode::passphrase};
 
-/// The mode's German label, which also identifies it as text.
+/// The mode's German label, which also identifies the mode as text.
 [[nodiscard]] QString rawValue(GeneratorMode mode);
 
-/// The mode whose `rawValue` is exactly `text`, upper and lower case told apart, if any.
+/// The mode whose `rawValue` equals `text`, case-sensitively; absent if there is none.
 [[nodiscard]] std::optional<GeneratorMode> generatorMode(QStringView text);

@@ -8,11 +8,11 @@
 #include <QMetaType>
 #include <QString>
 
-/// Every choice of the user, for both modes at once, so that switching the mode loses nothing.
+/// The user's choices for both modes, so that a switch of the mode keeps those of the other.
 ///
 ///     const GeneratorSettings settings{.length = 12, .symbols = false};
 ///
-/// A plain value: any integer is accepted, ranges are the concern of whoever edits or generates.
+/// The record accepts any integer; the settings panel offers the valid ranges.
 struct GeneratorSettings
 {
     Q_GADGET
@@ -38,14 +38,14 @@ public:
     bool uppercase = true;
     bool numbers = true;
     bool symbols = true;
-    /// Leave out characters that are easily taken for one another.
+    /// Leave out look-alike characters.
     bool avoidAmbiguous = true;
-    /// At least one character of every group that is switched on.
+    /// Include at least one character of every enabled group.
     bool requireEveryGroup = true;
 
     /// Number of words of a passphrase.
     qint64 wordCount = 5;
-    /// Stands between the words and before the number, verbatim.
+    /// The text between the words and before the number, used verbatim.
     QString separator = QStringLiteral("-");
     bool capitalizeWords = false;
     bool appendNumber = true;

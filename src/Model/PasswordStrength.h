@@ -10,8 +10,8 @@
 /// How well a secret withstands guessing, from weakest to strongest.
 enum class PasswordStrength : std::uint8_t { weak, fair, good, strong };
 
-/// The German word shown for the level.
+/// The German name of the level.
 [[nodiscard]] QString title(PasswordStrength strength);
 
-/// The name of the symbol shown beside the level's title.
+/// The name of the level's symbol.
 [[nodiscard]] QString systemImage(PasswordStrength strength);

@@ -24,17 +24,17 @@ std::int32_t icuLength(QStringView text)
     return static_cast<std::int32_t>(text.size());
 }
 
-BreakIterator perceivedCharacters(QStringView text)
+BreakIterator graphemeClusters(QStringView text)
 {
     UErrorCode status = U_ZERO_ERROR;
     BreakIterator iterator(ubrk_open(UBRK_CHARACTER, "", text.utf16(), icuLength(text), &status));
-    // ICU fails here only where its own data is missing, which QtCore would not have survived.
+    // ICU fails here only if its data is missing, and QtCore does not start without that data.
     Q_ASSERT(U_SUCCESS(status));
     return iterator;
 }
 
-// Every ASCII character is a perceived character of its own, but for a line feed after a carriage
-// return. Skipping ICU then spares the start-up its data.
+// Every ASCII character is a grapheme cluster, except for a line feed after a carriage return. The
+// start of the program is faster without ICU, which loads its data at the first call.
 bool isPlainAscii(QStringView text)
 {
     return std::ranges::all_of(
@@ -48,7 +48,7 @@ qsizetype graphemeCount(QStringView text)
     if (isPlainAscii(text))
         return text.size();
 
-    const BreakIterator iterator = perceivedCharacters(text);
+    const BreakIterator iterator = graphemeClusters(text);
     qsizetype count = 0;
     while (ubrk_next(iterator.get()) != UBRK_DONE)
         ++count;
@@ -60,7 +60,7 @@ QString firstGraphemes(const QString& text, qsizetype count)
     if (isPlainAscii(text))
         return text.left(count);
 
-    const BreakIterator iterator = perceivedCharacters(text);
+    const BreakIterator iterator = graphemeClusters(text);
     std::int32_t end = 0;
     for (qsizetype i = 0; i < count; ++i) {
         const std::int32_t next = ubrk_next(iterator.get());

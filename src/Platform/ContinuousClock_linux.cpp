@@ -29,7 +29,7 @@ nanoseconds timeSinceBoot()
     return seconds(time.tv_sec) + nanoseconds(time.tv_nsec);
 }
 
-/// The pending tasks and one timer for the earliest of them.
+/// The pending tasks in the order of their deadlines, and one timer for the earliest deadline.
 class PendingTasks final : public QObject
 {
 public:

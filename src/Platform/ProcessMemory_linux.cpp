@@ -6,8 +6,17 @@
 #include <cstring>
 
 #include <sys/prctl.h>
+#include <sys/resource.h>
 
 namespace Platform::ProcessMemory {
+
+void keepFromDumps() noexcept
+{
+#ifdef NDEBUG
+    const rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
+#endif
+}
 
 void hide() noexcept
 {

@@ -8,9 +8,18 @@
 #include <cstring>
 
 #include <sys/ptrace.h>
+#include <sys/resource.h>
 #include <sys/types.h>
 
 namespace Platform::ProcessMemory {
+
+void keepFromDumps() noexcept
+{
+#ifdef NDEBUG
+    const rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
+#endif
+}
 
 void hide() noexcept
 {

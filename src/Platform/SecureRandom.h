@@ -10,8 +10,8 @@
 namespace Platform {
 
 /// Fills all of `bytes` (at most 256) from the system's cryptographically secure source with one
-/// request, and blocks only while the system has not yet seeded that source.
-/// Returns 0 on success, else the system's status; the content of `bytes` is then unspecified.
+/// request. Blocks only until the system has seeded that source.
+/// Returns 0 on success, else the system's status; `bytes` are unspecified after a failure.
 [[nodiscard]] std::int32_t fillSecureRandom(std::span<std::byte> bytes) noexcept;
 
 } // namespace Platform

@@ -15,12 +15,12 @@ std::int32_t fillSecureRandom(std::span<std::byte> bytes) noexcept
         const ssize_t filled = ::getrandom(bytes.data(), bytes.size(), 0);
         if (filled == std::ssize(bytes))
             return 0;
-        // A signal can interrupt only the wait for the first seeding, before any byte was
-        // delivered: the source has not failed, and the same request is made again.
+        // A signal can interrupt a request only while it waits for the first seeding. The source
+        // has not failed and has delivered no byte, so the same request is made again.
         if (filled < 0 && errno == EINTR)
             continue;
-        // The kernel never shortens a request of up to 256 bytes. One that comes back short broke
-        // that promise, so none of its bytes are used.
+        // The kernel never shortens a request of up to 256 bytes. A short result contradicts that
+        // guarantee, so none of its bytes are used.
         return filled < 0 ? errno : EIO;
     }
 }

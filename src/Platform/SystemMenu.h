@@ -7,11 +7,11 @@
 
 #include <functional>
 
-/// The menu bar that some systems keep for the program in front.
+/// The menu bar of systems that show one for the active program.
 namespace Platform::SystemMenu {
 
-/// Makes a command of this title the menu's About item. `chosen` runs on the main thread. Does
-/// nothing where the system keeps no menu for programs.
+/// Replaces the menu's About item by one with this title, which calls `chosen` on the main thread.
+/// Does nothing on systems without such a menu bar.
 void setAboutCommand(const QString& title, const std::function<void()>& chosen);
 
 } // namespace Platform::SystemMenu

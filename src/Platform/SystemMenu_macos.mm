@@ -5,7 +5,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// What the menu item calls.
+/// The target of the menu item's action.
 @interface MorvaneAboutTarget : NSObject {
 @public
     std::function<void()> chosen;
@@ -24,7 +24,7 @@ namespace Platform::SystemMenu {
 
 void setAboutCommand(const QString& title, const std::function<void()>& chosen)
 {
-    // A menu item does not keep its target alive.
+    // A menu item does not retain its target.
     static MorvaneAboutTarget* const target = [[MorvaneAboutTarget alloc] init];
     target->chosen = chosen;
 

@@ -5,14 +5,15 @@
 
 class QWindow;
 
-/// The frame of a window without a visible title bar.
+/// The decorations of a window without a visible title bar.
 namespace Platform::WindowChrome {
 
-/// Lets the window's contents reach its top edge. Call it before the window is shown.
+/// Extends the window's contents to its top edge. The program calls this before it shows the
+/// window.
 void hideTitleBar(QWindow& window);
 
-/// Whether the program has to draw the window's buttons, and to move and resize the window on its
-/// own, because none of it is left once the title bar is hidden.
+/// Whether hiding the title bar removes the window's buttons and borders as well, so that the
+/// program draws the buttons and starts moves and resizes itself.
 [[nodiscard]] bool usesClientSideDecorations();
 
 } // namespace Platform::WindowChrome

@@ -9,7 +9,7 @@
 
 void SecretText::wipe(QString& text)
 {
-    // To write into shared characters would make a copy of them.
+    // Writing to shared characters detaches `text` from them, and wipes a copy.
     if (!text.isDetached())
         return;
     Platform::ProcessMemory::wipe(std::as_writable_bytes(std::span(text.begin(), text.end())));

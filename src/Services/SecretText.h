@@ -7,7 +7,8 @@
 
 namespace SecretText {
 
-/// Overwrites the characters of `text` with zeros and empties it, unless somebody else shares them.
+/// Overwrites the characters of `text` with zeros and empties `text`. Does nothing if another
+/// QString shares the characters.
 void wipe(QString& text);
 
 } // namespace SecretText

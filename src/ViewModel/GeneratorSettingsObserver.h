@@ -10,8 +10,8 @@
 
 #include <optional>
 
-/// Tells a change of the settings from an assignment that leaves them equal. Bind `settings` to the
-/// record that is to be watched.
+/// Distinguishes a change of the settings from an assignment of equal settings. A view binds
+/// `settings` to the record that it observes.
 class GeneratorSettingsObserver : public QObject
 {
     Q_OBJECT
@@ -23,11 +23,21 @@ class GeneratorSettingsObserver : public QObject
 public:
     using QObject::QObject;
 
-    [[nodiscard]] GeneratorSettings settings() const;
-    void setSettings(const GeneratorSettings& settings);
+    [[nodiscard]] GeneratorSettings settings() const
+    {
+        return m_settings.value_or(GeneratorSettings());
+    }
+
+    void setSettings(const GeneratorSettings& settings)
+    {
+        const bool differs = m_settings && !(*m_settings == settings);
+        m_settings = settings;
+        if (differs)
+            Q_EMIT changed();
+    }
 
 Q_SIGNALS:
-    /// The record differs from the one before in at least one field. Not emitted for the first.
+    /// The record differs from the previous one in at least one field. Not emitted for the first.
     void changed();
 
 private:

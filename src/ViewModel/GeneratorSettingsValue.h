@@ -7,8 +7,8 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes `GeneratorSettings` the QML value type `generatorSettings`, from here because the model
-/// does not know QML.
+/// Registers `GeneratorSettings` as the QML value type `generatorSettings`. The model does not link
+/// QML and cannot register it.
 struct GeneratorSettingsValue
 {
     Q_GADGET

@@ -22,8 +22,8 @@ namespace ContinuousClock = Platform::ContinuousClock;
 
 using namespace std::chrono_literals;
 
-constexpr auto secretStaysOnClipboard = 30s;
-constexpr auto copyStaysConfirmed = 1400ms;
+constexpr auto clearClipboardAfter = 30s;
+constexpr auto hideConfirmationAfter = 1400ms;
 
 constexpr qint64 startingLength = 10;
 constexpr qsizetype historyLimit = 6;
@@ -129,18 +129,19 @@ void GeneratorViewModel::copyToClipboard()
     Clipboard::setSecret(m_generated);
     m_clipboardRevision = Clipboard::changeCount();
     setCopied(true);
-    // Independent of this object: the clipboard outlives the window that filled it.
-    ContinuousClock::after(secretStaysOnClipboard, [revision = m_clipboardRevision] {
+    // The task does not use this object, because the clipboard keeps the secret after the window is
+    // closed.
+    ContinuousClock::after(clearClipboardAfter, [revision = m_clipboardRevision] {
         if (Clipboard::changeCount() == revision)
             Clipboard::clear();
     });
-    ContinuousClock::after(copyStaysConfirmed, [model = QPointer(this)] {
-        if (model)
-            model->setCopied(false);
+    ContinuousClock::after(hideConfirmationAfter, [viewModel = QPointer(this)] {
+        if (viewModel)
+            viewModel->setCopied(false);
     });
 }
 
-// A copy, because the value may be the very one that it replaces.
+// The parameter is a copy, because the argument may be a reference to `m_generated`.
 void GeneratorViewModel::setGenerated(QString value)
 {
     release(std::exchange(m_generated, std::move(value)));
@@ -184,5 +185,5 @@ void GeneratorViewModel::wipeReleased()
 {
     for (QString& secret : m_released)
         SecretText::wipe(secret);
-    m_released.removeAll(QString()); // what was wiped
+    m_released.removeAll(QString()); // A wiped text is empty.
 }

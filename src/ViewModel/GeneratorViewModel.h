@@ -15,11 +15,11 @@
 #include <cstdint>
 #include <optional>
 
-/// The state behind the main window, for one run of the program: the settings, the secret they
-/// yielded, and the secrets before it.
+/// The state of the main window: the settings, the secret generated from them and the earlier
+/// secrets of this run of the program.
 ///
-/// Every assignment to a property emits its signal, also where the value stays the same. All calls
-/// belong on the user-interface thread.
+/// Every assignment to a property emits its signal, also if the value stays the same. Belongs on
+/// the user-interface thread.
 class GeneratorViewModel : public QObject
 {
     Q_OBJECT
@@ -47,12 +47,12 @@ public:
     explicit GeneratorViewModel(QObject* parent = nullptr);
     ~GeneratorViewModel() override;
 
-    /// What the next `generate` uses.
+    /// The settings that the next `generate` uses.
     [[nodiscard]] const GeneratorSettings& settings() const { return m_settings; }
-    /// Stores the settings and generates nothing: that is for whoever watches them.
+    /// Stores the settings without generating a secret; the views' observer does that.
     void setSettings(const GeneratorSettings& settings);
 
-    /// The labels of all modes, in the order of their values.
+    /// The labels of all modes, in the order of `allGeneratorModes`.
     [[nodiscard]] static QStringList modeTitles();
     /// The index of the settings' mode in `modeTitles`.
     [[nodiscard]] int modeIndex() const;
@@ -64,13 +64,13 @@ public:
     /// settings of its own; does nothing to a shorter separator.
     Q_INVOKABLE void limitSeparator();
 
-    /// The secret on show.
+    /// The displayed secret.
     [[nodiscard]] const QString& generated() const { return m_generated; }
     /// Whether `generated` has more than 38 grapheme clusters.
     [[nodiscard]] bool isLong() const;
     /// The estimated entropy of `generated`, in bits.
     [[nodiscard]] double entropy() const { return m_entropy; }
-    /// The rating of `entropy`; it changes with it.
+    /// The rating of `entropy`.
     [[nodiscard]] PasswordStrength strength() const;
     /// `strength` as a number from 0, the weakest, to 3.
     [[nodiscard]] int strengthLevel() const { return static_cast<int>(strength()); }
@@ -81,31 +81,31 @@ public:
     /// The secrets of this run, newest first, at most 6. A repeat of the newest is not added.
     [[nodiscard]] const QStringList& history() const { return m_history; }
 
-    /// The German message of the last generation, absent if it succeeded.
+    /// The German message of the last generation; absent if the generation succeeded.
     [[nodiscard]] const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     /// `errorMessage`, or the empty text.
     [[nodiscard]] QString errorText() const { return m_errorMessage.value_or(QString()); }
-    /// Whether there is an error to show. Writing false takes the message back, and writing true
-    /// does nothing: only a failed generation brings one up.
+    /// Whether there is an `errorMessage`. Setting false removes the message; setting true does
+    /// nothing, because only a failed generation has a message.
     [[nodiscard]] bool errorPresented() const { return m_errorMessage.has_value(); }
     void setErrorPresented(bool presented);
 
-    /// Whether the confirmation of a copy is on show.
+    /// Whether the confirmation of a copy is displayed.
     [[nodiscard]] bool copied() const { return m_copied; }
 
-    /// Draws a new secret by the current settings. On success sets `generated`, `entropy`,
-    /// `errorMessage` and `history`, in this order. On failure sets `errorMessage` alone: the
-    /// secret before it stays.
+    /// Generates a secret with the current settings. On success sets `generated`, `entropy`,
+    /// `errorMessage` and `history`, in this order. On failure sets only `errorMessage` and keeps
+    /// the previous secret.
     Q_INVOKABLE void generate();
 
-    /// Shows `value` again, rated by the current settings whatever it was made with. The history
-    /// keeps its order.
+    /// Makes `value` the displayed secret, with the entropy that the current settings give. The
+    /// history keeps its order.
     Q_INVOKABLE void useFromHistory(const QString& value);
 
-    /// Puts `generated` on the clipboard, sets `copied` for 1.4 seconds, and has the clipboard
-    /// emptied 30 seconds later, with or without this object, unless anybody wrote to it since.
-    /// Does nothing while `generated` is empty. Copying again neither ends nor prolongs what an
-    /// earlier copy has started.
+    /// Writes `generated` to the clipboard and sets `copied` for 1.4 seconds. Empties the clipboard
+    /// after 30 seconds, also if this object no longer exists, unless the clipboard was written to
+    /// since. Does nothing if `generated` is empty. A further copy does not change the times of an
+    /// earlier one.
     Q_INVOKABLE void copyToClipboard();
 
 Q_SIGNALS:
@@ -128,11 +128,11 @@ private:
     QString m_generated;
     double m_entropy = 0;
     QStringList m_history;
-    /// What was let go of here, and is wiped once nobody else holds it any more.
+    /// Former values of this object, which are wiped once no other QString shares their characters.
     QStringList m_released;
     std::optional<QString> m_errorMessage;
     bool m_copied = false;
-    /// The clipboard's change counter right after this object wrote to it last.
+    /// The clipboard's change counter after the last write of this object.
     std::int64_t m_clipboardRevision = 0;
     SecureGenerator m_generator;
     Q_DISABLE_COPY_MOVE(GeneratorViewModel)
