@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// What a secret costs beside the system calls that it cannot do without. Every measurement of a
-// secret stands next to one of a bare loop of as many requests, both repeated and interleaved at
-// random, so that a change of the machine's pace falls on both; the table at the end sets the
-// medians in relation.
+// Compares the time to generate a secret with the time of the system calls that the secret needs. A
+// bare loop makes as many requests. The repetitions of both are interleaved at random, so that a
+// change of the processor's speed affects both, and the last lines show the ratios of the medians.
 
 #include "Services/SecureGenerator.h"
 
@@ -71,7 +70,7 @@ std::string bareName(const std::string& name)
     return name + ", bare calls";
 }
 
-/// Reports as usual and keeps the medians.
+/// Reports to the console and stores the medians.
 class MedianReporter final : public benchmark::ConsoleReporter
 {
 public:
@@ -84,7 +83,8 @@ public:
         ConsoleReporter::ReportRuns(runs);
     }
 
-    /// The median time of `name` in units of its bare system calls, or 0 if it was filtered out.
+    /// The median time of `name` divided by that of its bare system calls; 0 if the command line
+    /// excluded either.
     [[nodiscard]] double ratio(const std::string& name) const
     {
         const auto whole = m_medians.find(name);
@@ -102,7 +102,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    // In front of the command line's own arguments, which thus overrule them.
+    // The defaults come before the arguments of the command line, which override them.
     std::array defaults{std::string("--benchmark_repetitions=15"),
                         std::string("--benchmark_min_time=0.05"),
                         std::string("--benchmark_enable_random_interleaving=true"),

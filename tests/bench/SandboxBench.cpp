@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// What a start of the program pays for its sandbox. It cannot be taken back, so each round runs
-// in a process of its own; what starting that one costs is not counted.
+// Measures the time that a start of the program spends on the sandbox. A process cannot leave a
+// sandbox, so each round runs in a process of its own, whose start is not measured.
 
 #include "Platform/Sandbox.h"
 
@@ -18,14 +18,14 @@ namespace {
 
 using Seconds = std::chrono::duration<double>;
 
-double secondsFor(void (*confine)())
+double secondsFor(void (*restriction)())
 {
     const auto start = std::chrono::steady_clock::now();
-    confine();
+    restriction();
     return Seconds(std::chrono::steady_clock::now() - start).count();
 }
 
-void inFreshProcess(benchmark::State& state, void (*confine)())
+void inFreshProcess(benchmark::State& state, void (*restriction)())
 {
     for ([[maybe_unused]] const auto round : state) {
         std::array<int, 2> ends{};
@@ -35,16 +35,16 @@ void inFreshProcess(benchmark::State& state, void (*confine)())
         }
         const pid_t child = ::fork();
         if (child == 0) {
-            const double seconds = secondsFor(confine);
+            const double seconds = secondsFor(restriction);
             ::_exit(::write(ends[1], &seconds, sizeof(seconds)) == sizeof(seconds) ? 0 : 1);
         }
         double seconds = 0;
         ::close(ends[1]);
-        const bool told
+        const bool isReceived
             = child > 0 && ::read(ends[0], &seconds, sizeof(seconds)) == sizeof(seconds);
         ::close(ends[0]);
         ::waitpid(child, nullptr, 0);
-        if (!told) {
+        if (!isReceived) {
             state.SkipWithError("no answer");
             return;
         }
@@ -52,10 +52,10 @@ void inFreshProcess(benchmark::State& state, void (*confine)())
     }
 }
 
-BENCHMARK_CAPTURE(inFreshProcess, files, Platform::Sandbox::restrictFilesystem)
+BENCHMARK_CAPTURE(inFreshProcess, filesystem, Platform::Sandbox::restrictFilesystem)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(inFreshProcess, system, Platform::Sandbox::installSyscallFilter)
+BENCHMARK_CAPTURE(inFreshProcess, syscalls, Platform::Sandbox::installSyscallFilter)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 

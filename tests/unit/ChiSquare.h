@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Pearson's test of whether counts come from a uniform distribution:
+// Pearson's chi-squared test for a uniform distribution of counts:
 //
 //     EXPECT_GT(ChiSquare::pValue(counts), ChiSquare::significance);
 
@@ -15,10 +15,9 @@
 
 namespace ChiSquare {
 
-/// How often a test of a correct generator may fail. The tests of uniformity look at fewer than 20
-/// statistics, so one of them fails in less than one of 5,000,000 runs. What the approximation of
-/// the statistic by the chi-square distribution is off by at this level is small beside that,
-/// because every cell counts tens of thousands of events.
+/// The probability with which a test of a correct generator fails. The tests of uniformity compute
+/// fewer than 20 statistics, so fewer than one of 5,000,000 runs fails. The chi-square distribution
+/// approximates the statistic well enough, because every cell counts tens of thousands of events.
 inline constexpr double significance = 1e-8;
 
 /// The sum of the squared deviations from the mean count, in units of that mean.

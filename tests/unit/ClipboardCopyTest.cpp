@@ -26,62 +26,62 @@ protected:
         FakeClock::reset();
     }
 
-    std::unique_ptr<GeneratorViewModel> model = std::make_unique<GeneratorViewModel>();
+    std::unique_ptr<GeneratorViewModel> viewModel = std::make_unique<GeneratorViewModel>();
 };
 
-TEST_F(ClipboardCopy, NeverHappensByItself)
+TEST_F(ClipboardCopy, NeverHappensWithoutARequest)
 {
     FakeClipboard::writeFromElsewhere(QStringLiteral("meins"));
-    model->generate();
-    model->useFromHistory(model->history().constLast());
+    viewModel->generate();
+    viewModel->useFromHistory(viewModel->history().constLast());
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(QStringLiteral("meins"))));
     EXPECT_EQ(FakeClock::waiting(), 0U);
-    EXPECT_FALSE(model->copied());
+    EXPECT_FALSE(viewModel->copied());
 }
 
 TEST_F(ClipboardCopy, PutsTheSecretOnTheClipboardAndConfirmsIt)
 {
-    model->copyToClipboard();
-    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(model->generated())));
-    EXPECT_TRUE(model->copied());
+    viewModel->copyToClipboard();
+    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(viewModel->generated())));
+    EXPECT_TRUE(viewModel->copied());
 }
 
 TEST_F(ClipboardCopy, RefusesAnEmptySecretSilently)
 {
     FakeClipboard::writeFromElsewhere(QStringLiteral("meins"));
-    model->useFromHistory(QString());
-    model->copyToClipboard();
+    viewModel->useFromHistory(QString());
+    viewModel->copyToClipboard();
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(QStringLiteral("meins"))));
-    EXPECT_FALSE(model->copied());
+    EXPECT_FALSE(viewModel->copied());
     EXPECT_EQ(FakeClock::waiting(), 0U);
 }
 
 TEST_F(ClipboardCopy, AnEmptySecretLeavesAnEarlierConfirmationAlone)
 {
-    model->copyToClipboard();
-    const QString secret = model->generated();
-    model->useFromHistory(QString());
-    model->copyToClipboard();
-    EXPECT_TRUE(model->copied());
+    viewModel->copyToClipboard();
+    const QString secret = viewModel->generated();
+    viewModel->useFromHistory(QString());
+    viewModel->copyToClipboard();
+    EXPECT_TRUE(viewModel->copied());
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(secret)));
     EXPECT_EQ(FakeClock::waiting(), 2U);
 }
 
 TEST_F(ClipboardCopy, IsConfirmedFor1400Milliseconds)
 {
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(1399ms);
-    EXPECT_TRUE(model->copied());
+    EXPECT_TRUE(viewModel->copied());
     FakeClock::advance(1ms);
-    EXPECT_FALSE(model->copied());
-    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(model->generated())));
+    EXPECT_FALSE(viewModel->copied());
+    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(viewModel->generated())));
 }
 
 TEST_F(ClipboardCopy, IsClearedAfter30Seconds)
 {
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(29'999ms);
-    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(model->generated())));
+    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(viewModel->generated())));
     FakeClock::advance(1ms);
     EXPECT_EQ(FakeClipboard::text(), std::nullopt);
     EXPECT_EQ(FakeClipboard::clears(), 1);
@@ -90,15 +90,15 @@ TEST_F(ClipboardCopy, IsClearedAfter30Seconds)
 
 TEST_F(ClipboardCopy, ANewSecretInTheWindowDoesNotKeepTheCopiedOneOnTheClipboard)
 {
-    model->copyToClipboard();
-    model->generate();
+    viewModel->copyToClipboard();
+    viewModel->generate();
     FakeClock::advance(30s);
     EXPECT_EQ(FakeClipboard::text(), std::nullopt);
 }
 
-TEST_F(ClipboardCopy, WhatAnotherProgramWroteSinceStays)
+TEST_F(ClipboardCopy, KeepsWhatAnotherProgramWroteSince)
 {
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(10s);
     FakeClipboard::writeFromElsewhere(QStringLiteral("meins"));
     FakeClock::advance(1h);
@@ -106,44 +106,44 @@ TEST_F(ClipboardCopy, WhatAnotherProgramWroteSinceStays)
     EXPECT_EQ(FakeClipboard::clears(), 0);
 }
 
-TEST_F(ClipboardCopy, TheSameTextWrittenByAnotherProgramStaysToo)
+TEST_F(ClipboardCopy, KeepsTheSameTextOfAnotherProgram)
 {
-    model->copyToClipboard();
-    FakeClipboard::writeFromElsewhere(model->generated());
+    viewModel->copyToClipboard();
+    FakeClipboard::writeFromElsewhere(viewModel->generated());
     FakeClock::advance(30s);
-    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(model->generated())));
+    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(viewModel->generated())));
 }
 
-TEST_F(ClipboardCopy, ASecondCopyIsConfirmedOnlyUntilTheFirstOnesTimeIsUp)
+TEST_F(ClipboardCopy, TheFirstCopyEndsTheConfirmationOfTheSecond)
 {
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(500ms);
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(899ms);
-    EXPECT_TRUE(model->copied());
+    EXPECT_TRUE(viewModel->copied());
     FakeClock::advance(1ms);
-    EXPECT_FALSE(model->copied());
+    EXPECT_FALSE(viewModel->copied());
 }
 
-TEST_F(ClipboardCopy, TheSecondCopysOwnConfirmationEndIsToldAsWell)
+TEST_F(ClipboardCopy, TheEndOfTheSecondConfirmationIsSignalledToo)
 {
-    std::vector<bool> told;
-    QObject::connect(model.get(), &GeneratorViewModel::copiedChanged, model.get(),
-                     [&] { told.push_back(model->copied()); });
-    model->copyToClipboard();
+    std::vector<bool> signalled;
+    QObject::connect(viewModel.get(), &GeneratorViewModel::copiedChanged, viewModel.get(),
+                     [&] { signalled.push_back(viewModel->copied()); });
+    viewModel->copyToClipboard();
     FakeClock::advance(500ms);
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(1400ms);
-    EXPECT_THAT(told, ElementsAre(true, true, false, false));
+    EXPECT_THAT(signalled, ElementsAre(true, true, false, false));
 }
 
-TEST_F(ClipboardCopy, ASecondCopyIsCleared30SecondsAfterItself)
+TEST_F(ClipboardCopy, ASecondCopyIsClearedAfterItsOwn30Seconds)
 {
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(29s);
-    model->copyToClipboard();
+    viewModel->copyToClipboard();
     FakeClock::advance(29'999ms);
-    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(model->generated())));
+    EXPECT_THAT(FakeClipboard::text(), Optional(Eq(viewModel->generated())));
     EXPECT_EQ(FakeClipboard::clears(), 0);
     FakeClock::advance(1ms);
     EXPECT_EQ(FakeClipboard::text(), std::nullopt);
@@ -151,8 +151,8 @@ TEST_F(ClipboardCopy, ASecondCopyIsCleared30SecondsAfterItself)
 
 TEST_F(ClipboardCopy, IsClearedWithoutTheViewModel)
 {
-    model->copyToClipboard();
-    model.reset();
+    viewModel->copyToClipboard();
+    viewModel.reset();
     FakeClock::advance(30s);
     EXPECT_EQ(FakeClipboard::text(), std::nullopt);
 }

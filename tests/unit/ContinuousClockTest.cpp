@@ -55,7 +55,7 @@ using std::chrono::steady_clock;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// What the kernel says of the timers of this process: for each the number of its clock.
+/// The clock of each timer that this process holds, as the kernel lists them.
 std::vector<int> clocksOfTimers()
 {
     std::vector<int> clocks;
@@ -63,7 +63,7 @@ std::vector<int> clocksOfTimers()
     for (const QString& name : folder.entryList(QDir::Files)) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly))
-            continue; // closed meanwhile, as is the one of the folder itself
+            continue; // The descriptor is closed, as the folder's own is.
         QTextStream lines(&file);
         for (QString line = lines.readLine(); !line.isNull(); line = lines.readLine()) {
             if (line.startsWith(QLatin1String("clockid:")))
@@ -89,7 +89,7 @@ private:
     QCoreApplication m_application{m_argumentCount, m_arguments.data()};
 };
 
-TEST_F(ContinuousClockTest, CountsTimeAsleep)
+TEST_F(ContinuousClockTest, CountsTheTimeWhileSuspended)
 {
     ASSERT_THAT(clocksOfTimers(), IsEmpty());
     ContinuousClock::after(std::chrono::seconds(30), [] {});
@@ -124,7 +124,7 @@ TEST_F(ContinuousClockTest, LeavesNoTimerBehind)
     EXPECT_THAT(clocksOfTimers(), IsEmpty());
 }
 
-TEST_F(ContinuousClockTest, WaitsDoNotDisturbEachOther)
+TEST_F(ContinuousClockTest, RunsTasksInTheOrderOfTheirDeadlines)
 {
     std::vector<int> order;
     bool done = false;
@@ -180,7 +180,7 @@ TEST_F(ContinuousClockTest, ATaskCanAddTasks)
     EXPECT_THAT(order, ElementsAre(10, 0, 30));
 }
 
-TEST_F(ContinuousClockTest, WaitsEvenWhereTheSystemHasNoTimerLeft)
+TEST_F(ContinuousClockTest, WaitsAlsoIfTheSystemHasNoTimerLeft)
 {
     hasTimersLeft = false;
     bool done = false;
@@ -192,7 +192,7 @@ TEST_F(ContinuousClockTest, WaitsEvenWhereTheSystemHasNoTimerLeft)
     EXPECT_GE(steady_clock::now() - start, milliseconds(30));
 }
 
-TEST_F(ContinuousClockTest, ForgetsWhatIsPendingAtTheEnd)
+TEST_F(ContinuousClockTest, DropsPendingTasksAtTheEnd)
 {
     ContinuousClock::after(std::chrono::hours(1), [] { FAIL() << "at the end"; });
     EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));

@@ -25,7 +25,7 @@ using ::PrintTo;
 constexpr GeneratorMode passphrase = GeneratorMode::passphrase;
 constexpr SecureGenerator generator;
 
-/// Password settings with these groups switched on.
+/// Password settings with these groups enabled.
 GeneratorSettings groups(bool lowercase, bool uppercase, bool numbers, bool symbols)
 {
     return {.lowercase = lowercase, .uppercase = uppercase, .numbers = numbers, .symbols = symbols};
@@ -44,8 +44,8 @@ struct Estimate
     double bits;
 };
 
-// The expected bits are given to this many places.
-constexpr double places = 0.000'000'6;
+// The expected bits are rounded to six decimal places.
+constexpr double tolerance = 0.000'000'6;
 
 class EntropyEstimate : public testing::TestWithParam<Estimate>
 {
@@ -56,9 +56,9 @@ protected:
     }
 };
 
-TEST_P(EntropyEstimate, IsTheSizeOfTheSpaceInBits)
+TEST_P(EntropyEstimate, IsTheExpectedNumberOfBits)
 {
-    EXPECT_NEAR(estimate(), GetParam().bits, places);
+    EXPECT_NEAR(estimate(), GetParam().bits, tolerance);
 }
 
 TEST_P(EntropyEstimate, DrawsNothing)
@@ -93,8 +93,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Estimate{"TwentyCharacters", {}, QString(20, u'a'), 124.576374},
                     Estimate{"SixtyFourCharacters", {}, QString(64, u'a'), 398.644396},
                     Estimate{"PassphraseText", {}, u"abend-anker"_s, 68.517006},
-                    Estimate{
-                        "PerceivedCharacters", {}, u"a\u0308\U0001f1e9\U0001f1ea"_s, 12.457637}),
+                    Estimate{"GraphemeClusters", {}, u"a\u0308\U0001f1e9\U0001f1ea"_s, 12.457637}),
     rowName);
 
 INSTANTIATE_TEST_SUITE_P(

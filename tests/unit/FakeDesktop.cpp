@@ -26,7 +26,7 @@ struct ClipboardState
 struct ClockState
 {
     milliseconds now{0};
-    /// Tasks of the same time keep their order.
+    /// A multimap keeps tasks with the same deadline in the order of the calls.
     std::multimap<milliseconds, std::function<void()>> tasks;
 };
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Stands in for the clipboard, the clock and the appearance of the system, in every executable that
-// links MorvaneFakeDesktop. Each is one for the whole program, as the system's are.
+// Replaces the system's clipboard, clock and appearance in every executable that links
+// MorvaneFakeDesktop. Each of them has one state for the whole program.
 
 #include <QString>
 
@@ -14,29 +14,29 @@
 
 namespace FakeClipboard {
 
-/// What a paste would yield; absent while the clipboard is empty.
+/// The text on the clipboard; absent while the clipboard is empty.
 std::optional<QString> text();
 
-/// How often it was cleared.
+/// The number of times that the clipboard was cleared.
 int clears();
 
-/// What any other program does.
+/// Replaces the contents in the manner of another program.
 void writeFromElsewhere(const QString& text);
 
-/// Empty, and nothing counted.
+/// Empties the clipboard and resets the number of clears.
 void reset();
 
 } // namespace FakeClipboard
 
 namespace FakeClock {
 
-/// Lets time pass, and runs what is due meanwhile, in the order in which it is due.
+/// Advances the time and runs the tasks that become due, in the order of their deadlines.
 void advance(std::chrono::milliseconds time);
 
-/// How many tasks are waiting.
+/// The number of pending tasks.
 std::size_t waiting();
 
-/// Forgets what is waiting.
+/// Sets the time to 0 and drops the pending tasks.
 void reset();
 
 } // namespace FakeClock

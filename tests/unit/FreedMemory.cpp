@@ -14,12 +14,12 @@
 
 namespace {
 
-// No memory may be taken or given back while a block is looked at.
+// Fixed memory, because a search runs within `free` and must neither allocate nor free.
 std::array<char16_t, 64> wanted{};
 std::size_t wantedSize = 0;
 int count = 0;
 
-bool holdsWanted(const void* block, std::size_t size)
+bool containsWanted(const void* block, std::size_t size)
 {
     return wantedSize > 0 && block && ::memmem(block, size, wanted.data(), wantedSize);
 }
@@ -37,7 +37,7 @@ void __sanitizer_free_hook(const volatile void* block)
 {
     if (wantedSize > 0 && block) {
         const std::size_t size = __sanitizer_get_allocated_size(block);
-        if (holdsWanted(const_cast<const void*>(block), size))
+        if (containsWanted(const_cast<const void*>(block), size))
             ++count;
     }
 }
@@ -49,16 +49,16 @@ extern "C" void* __libc_realloc(void* block, std::size_t size);
 
 void free(void* block)
 {
-    if (holdsWanted(block, ::malloc_usable_size(block)))
+    if (containsWanted(block, ::malloc_usable_size(block)))
         ++count;
     __libc_free(block);
 }
 
 void* realloc(void* block, std::size_t size)
 {
-    const bool held = holdsWanted(block, ::malloc_usable_size(block));
+    const bool contained = containsWanted(block, ::malloc_usable_size(block));
     void* const result = __libc_realloc(block, size);
-    if (held && result != block)
+    if (contained && result != block)
         ++count;
     return result;
 }
@@ -79,7 +79,7 @@ FreedMemory::~FreedMemory()
     wantedSize = 0;
 }
 
-int FreedMemory::finds() const
+int FreedMemory::matches() const
 {
     return count;
 }

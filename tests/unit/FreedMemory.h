@@ -5,17 +5,17 @@
 
 #include <QStringView>
 
-/// Looks into every block of memory that this executable gives back, for text that should not be in
-/// there any more. One at a time.
+/// Searches every block of memory that this executable frees for a text. Only one object may exist
+/// at a time.
 class FreedMemory final
 {
 public:
-    /// Looks for `text`, of 64 characters at most, from now on.
+    /// Searches for `text`, of 64 characters at most, until the end of the object's life.
     explicit FreedMemory(QStringView text);
     ~FreedMemory();
 
-    /// How many blocks held it.
-    [[nodiscard]] int finds() const;
+    /// The number of freed blocks that contained the text.
+    [[nodiscard]] int matches() const;
 
 private:
     Q_DISABLE_COPY_MOVE(FreedMemory)

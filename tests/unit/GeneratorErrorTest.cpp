@@ -95,7 +95,7 @@ TEST(GeneratorError, KeepsNothingForAMissingCharacterSet)
     EXPECT_EQ(error.randomStatus(), std::nullopt);
 }
 
-TEST(GeneratorError, EqualsOnlyTheSameCaseWithTheSameValue)
+TEST(GeneratorError, EqualsOnlyTheSameKindWithTheSameNumber)
 {
     const std::array errors{
         GeneratorError::lengthTooShort(3), GeneratorError::lengthTooShort(4),
@@ -108,7 +108,7 @@ TEST(GeneratorError, EqualsOnlyTheSameCaseWithTheSameValue)
     }
 }
 
-TEST(GeneratorError, NamesItsCaseToWhoeverDebugs)
+TEST(GeneratorError, NamesItsKindForDebugging)
 {
     EXPECT_STREQ(GeneratorError::lengthTooShort(4).what(), "lengthTooShort");
     EXPECT_STREQ(GeneratorError::randomFailure(-1).what(), "randomFailure");

@@ -37,7 +37,7 @@ TEST_P(GeneratorModeLabel, IsTheModesText)
     EXPECT_EQ(rawValue(GetParam().mode), GetParam().text);
 }
 
-TEST_P(GeneratorModeLabel, LeadsBackToTheMode)
+TEST_P(GeneratorModeLabel, IdentifiesTheMode)
 {
     EXPECT_EQ(generatorMode(GetParam().text), GetParam().mode);
 }
@@ -58,7 +58,7 @@ class GeneratorModeFromText : public testing::TestWithParam<ForeignText>
 {
 };
 
-TEST_P(GeneratorModeFromText, IsNoneForAnyOtherText)
+TEST_P(GeneratorModeFromText, IsAbsentForAnyOtherText)
 {
     EXPECT_EQ(generatorMode(GetParam().text), std::nullopt);
 }

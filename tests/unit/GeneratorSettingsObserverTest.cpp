@@ -21,7 +21,7 @@ protected:
     int changes = 0;
 };
 
-TEST_F(GeneratorSettingsObserverTest, TakesTheFirstRecordForGranted)
+TEST_F(GeneratorSettingsObserverTest, DoesNotSignalTheFirstRecord)
 {
     GeneratorSettings settings;
     settings.length = 10;
@@ -30,7 +30,7 @@ TEST_F(GeneratorSettingsObserverTest, TakesTheFirstRecordForGranted)
     EXPECT_EQ(observer.settings(), settings);
 }
 
-TEST_F(GeneratorSettingsObserverTest, TellsAChangeOfTheLastField)
+TEST_F(GeneratorSettingsObserverTest, SignalsAChangeOfTheLastField)
 {
     GeneratorSettings settings;
     observer.setSettings(settings);
@@ -40,7 +40,7 @@ TEST_F(GeneratorSettingsObserverTest, TellsAChangeOfTheLastField)
     EXPECT_EQ(observer.settings(), settings);
 }
 
-TEST_F(GeneratorSettingsObserverTest, IsSilentForAnEqualRecord)
+TEST_F(GeneratorSettingsObserverTest, DoesNotSignalAnEqualRecord)
 {
     GeneratorSettings settings;
     settings.separator = QStringLiteral("\u00e9");
@@ -51,7 +51,7 @@ TEST_F(GeneratorSettingsObserverTest, IsSilentForAnEqualRecord)
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(GeneratorSettingsObserverTest, TellsThereAndBackAsTwoChanges)
+TEST_F(GeneratorSettingsObserverTest, SignalsAChangeAndItsReversal)
 {
     GeneratorSettings settings;
     observer.setSettings(settings);

@@ -23,7 +23,7 @@ namespace {
 
 using ::PrintTo;
 
-TEST(GeneratorSettings, AreByDefaultTheDocumentedOnes)
+TEST(GeneratorSettings, HaveTheDocumentedDefaults)
 {
     const GeneratorSettings expected{
         .mode = GeneratorMode::password,
@@ -79,7 +79,7 @@ TEST_P(GeneratorSettingsField, TakesPartInTheComparison)
     EXPECT_NE(original, changed);
 }
 
-TEST_P(GeneratorSettingsField, EqualsTheSameFieldChangedAlike)
+TEST_P(GeneratorSettingsField, EqualsTheSameChangeOfTheField)
 {
     GeneratorSettings one;
     GeneratorSettings other;

@@ -28,7 +28,7 @@ constexpr std::uint64_t indexOfEule = 15;
 constexpr std::uint64_t indexOfMond = 41;
 constexpr std::uint64_t indexOfTau = 62;
 
-/// One word a secret, and so one draw: the drawn index tells the secret.
+/// Passphrases of a single word, so that the only drawn index selects the secret.
 GeneratorSettings singleWord()
 {
     GeneratorSettings settings;
@@ -54,47 +54,48 @@ protected:
     void generateWord(std::uint64_t index)
     {
         const ScriptedRandom draws({index});
-        model.generate();
+        viewModel.generate();
     }
 
-    /// Writes down every signal from now on, with what an observer sees at that moment.
+    /// Logs every later signal with the value that an observer reads at that moment.
     void record()
     {
-        QObject::connect(&model, &GeneratorViewModel::settingsChanged, &model,
+        QObject::connect(&viewModel, &GeneratorViewModel::settingsChanged, &viewModel,
                          [this] { log << QStringLiteral("settings"); });
-        QObject::connect(&model, &GeneratorViewModel::generatedChanged, &model,
-                         [this] { log << QStringLiteral("generated ") + model.generated(); });
-        QObject::connect(&model, &GeneratorViewModel::entropyChanged, &model,
+        QObject::connect(&viewModel, &GeneratorViewModel::generatedChanged, &viewModel,
+                         [this] { log << QStringLiteral("generated ") + viewModel.generated(); });
+        QObject::connect(&viewModel, &GeneratorViewModel::entropyChanged, &viewModel,
                          [this] { log << QStringLiteral("entropy"); });
-        QObject::connect(&model, &GeneratorViewModel::errorMessageChanged, &model, [this] {
-            log << (model.errorMessage() ? QStringLiteral("error") : QStringLiteral("no error"));
+        QObject::connect(&viewModel, &GeneratorViewModel::errorMessageChanged, &viewModel, [this] {
+            log << (viewModel.errorMessage() ? QStringLiteral("error")
+                                             : QStringLiteral("no error"));
         });
-        QObject::connect(&model, &GeneratorViewModel::historyChanged, &model,
+        QObject::connect(&viewModel, &GeneratorViewModel::historyChanged, &viewModel,
                          [this] { log << QStringLiteral("history"); });
-        QObject::connect(&model, &GeneratorViewModel::copiedChanged, &model,
+        QObject::connect(&viewModel, &GeneratorViewModel::copiedChanged, &viewModel,
                          [this] { log << QStringLiteral("copied"); });
     }
 
-    GeneratorViewModel model;
+    GeneratorViewModel viewModel;
     QStringList log;
 };
 
 TEST_F(GeneratorViewModelTest, StartsWithAPasswordOfTenCharacters)
 {
-    EXPECT_EQ(model.settings().length, 10);
+    EXPECT_EQ(viewModel.settings().length, 10);
     GeneratorSettings expected;
     expected.length = 10;
-    EXPECT_EQ(model.settings(), expected);
-    EXPECT_EQ(model.generated().size(), 10);
-    EXPECT_DOUBLE_EQ(model.entropy(), 10 * std::log2(75.0));
-    EXPECT_EQ(model.strength(), PasswordStrength::fair);
-    EXPECT_THAT(model.history(), ElementsAre(model.generated()));
-    EXPECT_EQ(model.errorMessage(), std::nullopt);
-    EXPECT_FALSE(model.errorPresented());
-    EXPECT_FALSE(model.copied());
+    EXPECT_EQ(viewModel.settings(), expected);
+    EXPECT_EQ(viewModel.generated().size(), 10);
+    EXPECT_DOUBLE_EQ(viewModel.entropy(), 10 * std::log2(75.0));
+    EXPECT_EQ(viewModel.strength(), PasswordStrength::fair);
+    EXPECT_THAT(viewModel.history(), ElementsAre(viewModel.generated()));
+    EXPECT_EQ(viewModel.errorMessage(), std::nullopt);
+    EXPECT_FALSE(viewModel.errorPresented());
+    EXPECT_FALSE(viewModel.copied());
 }
 
-TEST_F(GeneratorViewModelTest, DrawsItsFirstPasswordOnceAndByTheStartingLength)
+TEST_F(GeneratorViewModelTest, DrawsItsFirstPasswordOnceWithTheStartingLength)
 {
     const ScriptedRandom draws([](std::uint64_t& value) {
         value = 0;
@@ -116,16 +117,16 @@ TEST_F(GeneratorViewModelTest, StartsWithAnErrorWhereTheRandomSourceFails)
 
 TEST_F(GeneratorViewModelTest, SignalsASuccessInTheOrderOfItsAssignments)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     record();
     generateWord(indexOfEule);
     EXPECT_THAT(log, ElementsAre(QStringLiteral("generated eule"), QStringLiteral("entropy"),
                                  QStringLiteral("no error"), QStringLiteral("history")));
 }
 
-TEST_F(GeneratorViewModelTest, SignalsValuesThatStayTheSameToo)
+TEST_F(GeneratorViewModelTest, SignalsUnchangedValuesToo)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     generateWord(indexOfEule);
     record();
     generateWord(indexOfEule);
@@ -133,73 +134,74 @@ TEST_F(GeneratorViewModelTest, SignalsValuesThatStayTheSameToo)
                                  QStringLiteral("no error")));
 
     log.clear();
-    model.setSettings(model.settings());
+    viewModel.setSettings(viewModel.settings());
     EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
 
     log.clear();
-    model.useFromHistory(model.generated());
+    viewModel.useFromHistory(viewModel.generated());
     EXPECT_THAT(log, ElementsAre(QStringLiteral("generated eule"), QStringLiteral("entropy")));
 }
 
-TEST_F(GeneratorViewModelTest, SignalsAFailureAlone)
+TEST_F(GeneratorViewModelTest, SignalsOnlyTheErrorOfAFailure)
 {
-    model.setSettings(withoutGroups());
+    viewModel.setSettings(withoutGroups());
     record();
-    model.generate();
+    viewModel.generate();
     EXPECT_THAT(log, ElementsAre(QStringLiteral("error")));
 }
 
 TEST_F(GeneratorViewModelTest, ShowsTheNewSecretBeforeItIsRated)
 {
-    model.setSettings(singleWord());
-    const double before = model.entropy();
+    viewModel.setSettings(singleWord());
+    const double before = viewModel.entropy();
     std::optional<double> seen;
-    QObject::connect(&model, &GeneratorViewModel::generatedChanged, &model,
-                     [&] { seen = model.entropy(); });
+    QObject::connect(&viewModel, &GeneratorViewModel::generatedChanged, &viewModel,
+                     [&] { seen = viewModel.entropy(); });
     generateWord(indexOfEule);
     EXPECT_EQ(seen, before);
-    EXPECT_DOUBLE_EQ(model.entropy(), std::log2(76.0));
+    EXPECT_DOUBLE_EQ(viewModel.entropy(), std::log2(76.0));
 }
 
-TEST_F(GeneratorViewModelTest, RatesByTheSettingsAtThatMoment)
+TEST_F(GeneratorViewModelTest, RatesWithTheSettingsAtThatMoment)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     GeneratorSettings twoWords = singleWord();
     twoWords.wordCount = 2;
-    QObject::connect(&model, &GeneratorViewModel::generatedChanged, &model,
-                     [&] { model.setSettings(twoWords); });
+    QObject::connect(&viewModel, &GeneratorViewModel::generatedChanged, &viewModel,
+                     [&] { viewModel.setSettings(twoWords); });
     generateWord(indexOfEule);
-    EXPECT_DOUBLE_EQ(model.entropy(), 2 * std::log2(76.0));
+    EXPECT_DOUBLE_EQ(viewModel.entropy(), 2 * std::log2(76.0));
 }
 
 TEST_F(GeneratorViewModelTest, KeepsTheNewestSixSecrets)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     for (std::uint64_t index = 0; index < 7; ++index)
         generateWord(index);
-    EXPECT_THAT(model.history(), ElementsAre(QStringLiteral("birke"), QStringLiteral("beere"),
-                                             QStringLiteral("bambus"), QStringLiteral("atlas"),
-                                             QStringLiteral("apfel"), QStringLiteral("anker")));
+    EXPECT_THAT(viewModel.history(), ElementsAre(QStringLiteral("birke"), QStringLiteral("beere"),
+                                                 QStringLiteral("bambus"), QStringLiteral("atlas"),
+                                                 QStringLiteral("apfel"), QStringLiteral("anker")));
 }
 
 TEST_F(GeneratorViewModelTest, DoesNotRememberAnAdjacentRepeat)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     generateWord(indexOfEule);
-    const QStringList before = model.history();
+    const QStringList before = viewModel.history();
     generateWord(indexOfEule);
-    EXPECT_EQ(model.history(), before);
-    EXPECT_EQ(model.generated(), QStringLiteral("eule"));
+    EXPECT_EQ(viewModel.history(), before);
+    EXPECT_EQ(viewModel.generated(), QStringLiteral("eule"));
 }
 
 TEST_F(GeneratorViewModelTest, RemembersARepeatThatIsNotAdjacent)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     generateWord(indexOfEule);
     generateWord(indexOfMond);
     generateWord(indexOfEule);
-    EXPECT_EQ(model.history().first(3), (QStringList{QStringLiteral("eule"), QStringLiteral("mond"),
-                                                     QStringLiteral("eule")}));
+    EXPECT_EQ(
+        viewModel.history().first(3),
+        (QStringList{QStringLiteral("eule"), QStringLiteral("mond"), QStringLiteral("eule")}));
 }
 
 TEST_F(GeneratorViewModelTest, ComparesRepeatsByTheirExactText)
@@ -208,139 +210,139 @@ TEST_F(GeneratorViewModelTest, ComparesRepeatsByTheirExactText)
     settings.wordCount = 2;
     // The same separator, composed and decomposed: canonically equivalent, but not the same text.
     settings.separator = QStringLiteral("\u00e9");
-    model.setSettings(settings);
+    viewModel.setSettings(settings);
     const ScriptedRandom draws({indexOfEule, indexOfEule, indexOfEule, indexOfEule});
-    model.generate();
+    viewModel.generate();
     settings.separator = QStringLiteral("e\u0301");
-    model.setSettings(settings);
-    model.generate();
-    EXPECT_EQ(model.history().first(2),
+    viewModel.setSettings(settings);
+    viewModel.generate();
+    EXPECT_EQ(viewModel.history().first(2),
               (QStringList{QStringLiteral("eulee\u0301eule"), QStringLiteral("eule\u00e9eule")}));
 }
 
 TEST_F(GeneratorViewModelTest, KeepsTheLastSecretWhenASettingIsRejected)
 {
-    const QString generated = model.generated();
-    const double entropy = model.entropy();
-    const QStringList history = model.history();
+    const QString generated = viewModel.generated();
+    const double entropy = viewModel.entropy();
+    const QStringList history = viewModel.history();
 
-    model.setSettings(withoutGroups());
-    model.generate();
-    EXPECT_EQ(model.errorMessage(), GeneratorError::noCharacterSet().errorDescription());
-    EXPECT_TRUE(model.errorPresented());
-    EXPECT_EQ(model.generated(), generated);
-    EXPECT_EQ(model.entropy(), entropy);
-    EXPECT_EQ(model.history(), history);
+    viewModel.setSettings(withoutGroups());
+    viewModel.generate();
+    EXPECT_EQ(viewModel.errorMessage(), GeneratorError::noCharacterSet().errorDescription());
+    EXPECT_TRUE(viewModel.errorPresented());
+    EXPECT_EQ(viewModel.generated(), generated);
+    EXPECT_EQ(viewModel.entropy(), entropy);
+    EXPECT_EQ(viewModel.history(), history);
 
-    model.setSettings(GeneratorSettings());
-    model.generate();
-    EXPECT_EQ(model.errorMessage(), std::nullopt);
-    EXPECT_EQ(model.generated().size(), 20);
+    viewModel.setSettings(GeneratorSettings());
+    viewModel.generate();
+    EXPECT_EQ(viewModel.errorMessage(), std::nullopt);
+    EXPECT_EQ(viewModel.generated().size(), 20);
 }
 
-TEST_F(GeneratorViewModelTest, NamesTheSmallestLengthThatWouldDo)
+TEST_F(GeneratorViewModelTest, NamesTheSmallestAcceptedLength)
 {
     GeneratorSettings settings;
     settings.length = 3;
-    model.setSettings(settings);
-    model.generate();
+    viewModel.setSettings(settings);
+    viewModel.generate();
     EXPECT_EQ(
-        model.errorMessage(),
+        viewModel.errorMessage(),
         QStringLiteral("Die Länge muss mindestens 4 betragen, damit jede Gruppe vorkommen kann."));
 }
 
 TEST_F(GeneratorViewModelTest, KeepsTheLastSecretWhenTheRandomSourceFails)
 {
-    const QString generated = model.generated();
-    const QStringList history = model.history();
+    const QString generated = viewModel.generated();
+    const QStringList history = viewModel.history();
     {
         const ScriptedRandom draws([](std::uint64_t&) { return 38; });
-        model.generate();
+        viewModel.generate();
     }
-    EXPECT_EQ(model.errorMessage(), GeneratorError::randomFailure(38).errorDescription());
-    EXPECT_EQ(model.generated(), generated);
-    EXPECT_EQ(model.history(), history);
+    EXPECT_EQ(viewModel.errorMessage(), GeneratorError::randomFailure(38).errorDescription());
+    EXPECT_EQ(viewModel.generated(), generated);
+    EXPECT_EQ(viewModel.history(), history);
 }
 
-TEST_F(GeneratorViewModelTest, TakesBackAnEarlierSecretUnderTheCurrentSettings)
+TEST_F(GeneratorViewModelTest, RatesAnEarlierSecretWithTheCurrentSettings)
 {
-    model.setSettings(singleWord());
+    viewModel.setSettings(singleWord());
     generateWord(indexOfEule);
     generateWord(indexOfMond);
     generateWord(indexOfTau);
-    const QStringList history = model.history();
+    const QStringList history = viewModel.history();
 
     const GeneratorSettings passwords;
-    model.setSettings(passwords);
-    model.useFromHistory(model.history().at(2));
-    EXPECT_EQ(model.generated(), QStringLiteral("eule"));
-    EXPECT_DOUBLE_EQ(model.entropy(), 4 * std::log2(75.0));
-    EXPECT_EQ(model.strength(), PasswordStrength::weak);
-    EXPECT_EQ(model.history(), history);
+    viewModel.setSettings(passwords);
+    viewModel.useFromHistory(viewModel.history().at(2));
+    EXPECT_EQ(viewModel.generated(), QStringLiteral("eule"));
+    EXPECT_DOUBLE_EQ(viewModel.entropy(), 4 * std::log2(75.0));
+    EXPECT_EQ(viewModel.strength(), PasswordStrength::weak);
+    EXPECT_EQ(viewModel.history(), history);
 }
 
-TEST_F(GeneratorViewModelTest, TakingBackASecretLeavesTheErrorMessage)
+TEST_F(GeneratorViewModelTest, AnEarlierSecretKeepsTheErrorMessage)
 {
-    model.setSettings(withoutGroups());
-    model.generate();
-    model.useFromHistory(model.history().constFirst());
-    EXPECT_TRUE(model.errorPresented());
-    EXPECT_EQ(model.entropy(), 0);
+    viewModel.setSettings(withoutGroups());
+    viewModel.generate();
+    viewModel.useFromHistory(viewModel.history().constFirst());
+    EXPECT_TRUE(viewModel.errorPresented());
+    EXPECT_EQ(viewModel.entropy(), 0);
 }
 
 TEST_F(GeneratorViewModelTest, ChangingSettingsGeneratesNothing)
 {
-    const QString generated = model.generated();
-    const QStringList history = model.history();
+    const QString generated = viewModel.generated();
+    const QStringList history = viewModel.history();
     record();
-    model.setSettings(singleWord());
-    EXPECT_EQ(model.generated(), generated);
-    EXPECT_EQ(model.history(), history);
+    viewModel.setSettings(singleWord());
+    EXPECT_EQ(viewModel.generated(), generated);
+    EXPECT_EQ(viewModel.history(), history);
     EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
 }
 
 TEST_F(GeneratorViewModelTest, DismissingTheErrorClearsTheMessageAndNothingElse)
 {
-    const QString generated = model.generated();
-    model.setSettings(withoutGroups());
-    model.generate();
+    const QString generated = viewModel.generated();
+    viewModel.setSettings(withoutGroups());
+    viewModel.generate();
     record();
-    model.setErrorPresented(false);
-    EXPECT_EQ(model.errorMessage(), std::nullopt);
-    EXPECT_EQ(model.errorText(), QString());
-    EXPECT_EQ(model.generated(), generated);
+    viewModel.setErrorPresented(false);
+    EXPECT_EQ(viewModel.errorMessage(), std::nullopt);
+    EXPECT_EQ(viewModel.errorText(), QString());
+    EXPECT_EQ(viewModel.generated(), generated);
     EXPECT_THAT(log, ElementsAre(QStringLiteral("no error")));
 }
 
 TEST_F(GeneratorViewModelTest, AnErrorCannotBePresentedFromOutside)
 {
     record();
-    model.setErrorPresented(true);
-    EXPECT_FALSE(model.errorPresented());
+    viewModel.setErrorPresented(true);
+    EXPECT_FALSE(viewModel.errorPresented());
     EXPECT_THAT(log, ElementsAre());
 }
 
 TEST_F(GeneratorViewModelTest, ModeIndexIsTheModesPlaceInTheTitles)
 {
-    EXPECT_EQ(model.modeIndex(), 0);
-    EXPECT_FALSE(model.isPassphrase());
-    model.setSettings(singleWord());
-    EXPECT_EQ(model.modeIndex(), 1);
-    EXPECT_TRUE(model.isPassphrase());
-    EXPECT_EQ(GeneratorViewModel::modeTitles().at(model.modeIndex()),
-              rawValue(model.settings().mode));
+    EXPECT_EQ(viewModel.modeIndex(), 0);
+    EXPECT_FALSE(viewModel.isPassphrase());
+    viewModel.setSettings(singleWord());
+    EXPECT_EQ(viewModel.modeIndex(), 1);
+    EXPECT_TRUE(viewModel.isPassphrase());
+    EXPECT_EQ(GeneratorViewModel::modeTitles().at(viewModel.modeIndex()),
+              rawValue(viewModel.settings().mode));
 }
 
 TEST_F(GeneratorViewModelTest, SettingTheModeIndexChangesTheModeAlone)
 {
     GeneratorSettings expected = singleWord();
-    model.setSettings(expected);
+    viewModel.setSettings(expected);
     record();
     for (const GeneratorMode mode : allGeneratorModes) {
         log.clear();
-        model.setModeIndex(mode == GeneratorMode::password ? 0 : 1);
+        viewModel.setModeIndex(mode == GeneratorMode::password ? 0 : 1);
         expected.mode = mode;
-        EXPECT_EQ(model.settings(), expected);
+        EXPECT_EQ(viewModel.settings(), expected);
         EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
     }
 }
@@ -348,8 +350,8 @@ TEST_F(GeneratorViewModelTest, SettingTheModeIndexChangesTheModeAlone)
 TEST_F(GeneratorViewModelTest, IsLongFromThe39thGraphemeCluster)
 {
     const auto isLong = [this](const QString& value) {
-        model.useFromHistory(value);
-        return model.isLong();
+        viewModel.useFromHistory(value);
+        return viewModel.isLong();
     };
     EXPECT_FALSE(isLong(QString()));
     EXPECT_FALSE(isLong(QString(38, QLatin1Char('x'))));
@@ -365,11 +367,11 @@ TEST_F(GeneratorViewModelTest, LimitsTheSeparatorToThreeGraphemeClusters)
     const QString family = QStringLiteral("\U0001F468\u200D\U0001F469\u200D\U0001F467");
     GeneratorSettings settings = singleWord();
     settings.separator = QStringLiteral("a") + family + QStringLiteral("e\u0301") + family;
-    model.setSettings(settings);
+    viewModel.setSettings(settings);
     record();
-    model.limitSeparator();
+    viewModel.limitSeparator();
     settings.separator = QStringLiteral("a") + family + QStringLiteral("e\u0301");
-    EXPECT_EQ(model.settings(), settings);
+    EXPECT_EQ(viewModel.settings(), settings);
     EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
 }
 
@@ -380,10 +382,10 @@ TEST_F(GeneratorViewModelTest, LeavesASeparatorOfUpToThreeGraphemeClustersAlone)
          {QString(), QStringLiteral("-"), QStringLiteral("abc"), QStringLiteral("e\u0301bc")}) {
         GeneratorSettings settings = singleWord();
         settings.separator = separator;
-        model.setSettings(settings);
+        viewModel.setSettings(settings);
         log.clear();
-        model.limitSeparator();
-        EXPECT_EQ(model.settings().separator, separator);
+        viewModel.limitSeparator();
+        EXPECT_EQ(viewModel.settings().separator, separator);
         EXPECT_THAT(log, ElementsAre());
     }
 }
@@ -392,36 +394,36 @@ TEST_F(GeneratorViewModelTest, TheObserverSeesTheLongSeparatorAndTheShortenedOne
 {
     GeneratorSettingsObserver observer;
     int changes = 0;
-    QObject::connect(&observer, &GeneratorSettingsObserver::changed, &model,
+    QObject::connect(&observer, &GeneratorSettingsObserver::changed, &viewModel,
                      [&changes] { ++changes; });
     GeneratorSettings settings = singleWord();
-    model.setSettings(settings);
-    observer.setSettings(model.settings());
-    QObject::connect(&model, &GeneratorViewModel::settingsChanged, &observer,
-                     [&] { observer.setSettings(model.settings()); });
+    viewModel.setSettings(settings);
+    observer.setSettings(viewModel.settings());
+    QObject::connect(&viewModel, &GeneratorViewModel::settingsChanged, &observer,
+                     [&] { observer.setSettings(viewModel.settings()); });
 
     settings.separator = QStringLiteral("abcd");
-    model.setSettings(settings);
+    viewModel.setSettings(settings);
     EXPECT_EQ(changes, 1);
-    model.limitSeparator();
+    viewModel.limitSeparator();
     EXPECT_EQ(changes, 2);
-    model.limitSeparator();
+    viewModel.limitSeparator();
     EXPECT_EQ(changes, 2);
-    EXPECT_EQ(model.settings().separator, QStringLiteral("abc"));
+    EXPECT_EQ(viewModel.settings().separator, QStringLiteral("abc"));
 }
 
 TEST_F(GeneratorViewModelTest, StrengthFollowsTheEntropy)
 {
     GeneratorSettings settings;
     settings.length = 15;
-    model.setSettings(settings);
-    model.generate();
-    EXPECT_EQ(model.strength(), PasswordStrength::strong);
-    EXPECT_EQ(model.strengthLevel(), 3);
-    EXPECT_EQ(model.strengthTitle(), QStringLiteral("Stark"));
-    model.setSettings(singleWord());
+    viewModel.setSettings(settings);
+    viewModel.generate();
+    EXPECT_EQ(viewModel.strength(), PasswordStrength::strong);
+    EXPECT_EQ(viewModel.strengthLevel(), 3);
+    EXPECT_EQ(viewModel.strengthTitle(), QStringLiteral("Stark"));
+    viewModel.setSettings(singleWord());
     generateWord(indexOfEule);
-    EXPECT_EQ(model.strength(), PasswordStrength::weak);
+    EXPECT_EQ(viewModel.strength(), PasswordStrength::weak);
 }
 
 } // namespace

@@ -29,7 +29,7 @@ using testing::Throws;
 
 constexpr GeneratorMode passphrase = GeneratorMode::passphrase;
 
-/// A passphrase of the given settings and what the random source yields for it.
+/// The settings of a passphrase, the values that the random source yields, and the expected text.
 struct Phrase
 {
     const char* name;
@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                            .text = u"abend-zitrone"_s}),
     rowName);
 
-// Written out once more in the order of the draws: the list is part of what users rely on.
+// A second copy of the list, because its words and their order are part of the behaviour.
 constexpr std::string_view expectedWords
     = "abend anker apfel atlas bambus beere birke blitz brise bruecke "
       "diamant dohle drossel duene eiche eule feder felsen fjord flamme "
@@ -220,7 +220,7 @@ TEST_P(PassphraseRandomFailure, EndsTheGenerationAtOnce)
     EXPECT_EQ(random.calls(), static_cast<std::int64_t>(GetParam()) + 1);
 }
 
-// After three draws all the words are there, and the number's draw fails.
+// After three draws all words are drawn, and the draw of the number fails.
 INSTANTIATE_TEST_SUITE_P(AfterDraws, PassphraseRandomFailure,
                          testing::Range(std::size_t{0}, std::size_t{4}),
                          testing::PrintToStringParamName());

@@ -41,12 +41,12 @@ using testing::Throws;
 
 constexpr GeneratorMode password = GeneratorMode::password;
 
-// What each group holds without look-alikes, written out rather than filtered.
+// The groups without look-alikes, as literals, so that the test does not repeat the filter.
 constexpr std::string_view clearLowercase = "abcdefghijkmnpqrstuvwxyz";
 constexpr std::string_view clearUppercase = "ABCDEFGHJKLMNPQRSTUVWXYZ";
 constexpr std::string_view clearNumbers = "23456789";
 
-/// A source that never ends and yields the same values in every run.
+/// A source without an end, which yields the same values in every run.
 ScriptedRandom::Source endless()
 {
     return [engine = std::mt19937_64()](std::uint64_t& value) mutable {
@@ -60,7 +60,7 @@ std::string generate(const GeneratorSettings& settings)
     return SecureGenerator().generate(settings).toStdString();
 }
 
-/// Password settings with only the groups in `groups` ("a", "A", "0" and "!") switched on.
+/// Password settings that enable only the groups in `groups` ("a", "A", "0" and "!").
 GeneratorSettings withGroups(std::string_view groups)
 {
     return {
@@ -112,7 +112,7 @@ TEST(PasswordGeneration, DrawsEachGroupThenThePoolThenTheOrder)
 
 TEST(PasswordGeneration, PutsTheGuaranteedCharactersInDrawnPlaces)
 {
-    // As above, but each element from the last to the second swapped with the first.
+    // The same characters, with each element from the last to the second swapped with the first.
     const ScriptedRandom random{1, 2, 3, 4, 68, 24, 0, 0, 0, 0, 0};
     EXPECT_EQ(generate({.length = 6}), "C5%~Ab");
     EXPECT_EQ(random.calls(), 11);
@@ -144,7 +144,7 @@ TEST(PasswordGeneration, OfFourCharactersReachesEveryOrderOfTheGroups)
 
 TEST(PasswordGeneration, DrawsGuaranteedCharactersFromTheirOwnGroup)
 {
-    // Each index is the group's last without look-alikes; the next one is its first again.
+    // The first script draws the last index of each group, the second one the index after the last.
     const ScriptedRandom last{23, 23, 7, 12, 3, 2, 1};
     EXPECT_EQ(generate({.length = 4}), "zZ9~");
     const ScriptedRandom wrapped{24, 24, 8, 13, 3, 2, 1};
@@ -159,7 +159,7 @@ TEST(PasswordGeneration, DrawsGuaranteedLookAlikesWhereTheyAreAllowed)
     EXPECT_EQ(generate({.length = 4, .avoidAmbiguous = false}), "aA0!");
 }
 
-TEST(PasswordGeneration, GuaranteesOnlyTheGroupsThatAreOn)
+TEST(PasswordGeneration, GuaranteesOnlyTheEnabledGroups)
 {
     auto settings = withGroups("A!");
     settings.length = 3;
@@ -227,7 +227,7 @@ TEST_P(PasswordPool, YieldsItsCharactersByIndex)
     EXPECT_EQ(pool, expectedPool());
 }
 
-TEST_P(PasswordPool, IsDrawnFromWithItsVerySize)
+TEST_P(PasswordPool, IsDrawnFromWithItsSizeAsTheBound)
 {
     const ScriptedRandom random{expectedPool().size()};
     EXPECT_EQ(generate(settings()), expectedPool().substr(0, 1));
@@ -319,7 +319,7 @@ INSTANTIATE_TEST_SUITE_P(
                   GeneratorError::lengthTooShort(4)}),
     rowName);
 
-TEST(PasswordGeneration, OfTwoCharactersIsFineWithoutTheGuarantee)
+TEST(PasswordGeneration, AcceptsTwoCharactersWithoutTheGuarantee)
 {
     const ScriptedRandom random{0, 24, 1};
     EXPECT_EQ(generate(shortened("aA0", 2, false)), "aA");
@@ -381,7 +381,7 @@ INSTANTIATE_TEST_SUITE_P(AfterDraws, PasswordRandomFailure,
                          testing::Range(std::size_t{0}, std::size_t{11}),
                          testing::PrintToStringParamName());
 
-TEST(PasswordGenerationDeathTest, StopsTheProgramOnALengthThatNoMemoryHolds)
+TEST(PasswordGenerationDeathTest, StopsTheProgramOnALengthBeyondTheMemory)
 {
     const ScriptedRandom random{};
     EXPECT_DEATH(generate({.length = highest}), "SecureGenerator");

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// How failed expectations show the program's types. Included by every test, because all of a
-// program's tests have to agree on it.
+// Prints the program's types in failed expectations. Every test includes this header, because all
+// tests of an executable need the same definitions.
 
 #include "Model/GeneratorError.h"
 #include "Model/GeneratorSettings.h"
@@ -44,7 +44,7 @@ inline void PrintTo(const GeneratorSettings& settings, std::ostream* out)
          << (settings.appendNumber ? ", number" : "");
 }
 
-/// A row of a table test, which goes by its name. Only found for the types of a namespace that says
+/// Prints a row of a table test as its name. Found only for types of a namespace with
 /// `using ::PrintTo;`.
 template<typename Row>
     requires requires(const Row& row) { row.name; }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Random settings, and for each of them every promise that its result has to keep. A failure is
-// reproduced by setting MORVANE_PROPERTY_SEED to the number that the test printed.
+// Generates secrets with random settings and checks every property of each result. To reproduce a
+// failure, set MORVANE_PROPERTY_SEED to the number that the test printed.
 
 #include "Model/GeneratorError.h"
 #include "Printing.h"
@@ -39,7 +39,7 @@ constexpr int rounds = 1'000'000;
 
 std::uint64_t chosenSeed()
 {
-    // Nothing else runs yet that could change the environment.
+    // The program has no other thread yet that could change the environment.
     // NOLINTNEXTLINE(concurrency-mt-unsafe)
     const char* const text = std::getenv("MORVANE_PROPERTY_SEED");
     if (text != nullptr)
@@ -49,9 +49,9 @@ std::uint64_t chosenSeed()
 }
 
 /// How the random source behaves during one generation.
-struct Weather
+struct SourceBehavior
 {
-    /// The accepted draw in whose place the source fails, counted from 0.
+    /// The index, from 0, of the accepted draw that fails instead.
     std::optional<std::int64_t> failsAt;
     std::int32_t status = 0;
     /// How many of 16 requests yield a value that every bound rejects.
@@ -95,18 +95,18 @@ public:
         };
     }
 
-    Weather weather()
+    SourceBehavior behavior()
     {
-        Weather weather;
+        SourceBehavior behavior;
         if (oneIn(8)) {
-            weather.failsAt = number(0, 40);
+            behavior.failsAt = number(0, 40);
             do
-                weather.status = static_cast<std::int32_t>(bits());
-            while (weather.status == 0);
+                behavior.status = static_cast<std::int32_t>(bits());
+            while (behavior.status == 0);
         }
         if (oneIn(8))
-            weather.rejected = static_cast<unsigned int>(number(1, 8));
-        return weather;
+            behavior.rejected = static_cast<unsigned int>(number(1, 8));
+        return behavior;
     }
 
 private:
@@ -147,18 +147,19 @@ struct Outcome
     std::int64_t rejected = 0;
 };
 
-Outcome generate(const GeneratorSettings& settings, const Weather& weather, Chooser& chooser)
+Outcome generate(const GeneratorSettings& settings, const SourceBehavior& behavior,
+                 Chooser& chooser)
 {
     std::int64_t accepted = 0;
     std::int64_t rejected = 0;
     const ScriptedRandom random([&](std::uint64_t& value) -> std::int32_t {
-        if (chooser.number(1, 16) <= weather.rejected) {
+        if (chooser.number(1, 16) <= behavior.rejected) {
             ++rejected;
             value = std::numeric_limits<std::uint64_t>::max();
             return 0;
         }
-        if (accepted++ == weather.failsAt)
-            return weather.status;
+        if (accepted++ == behavior.failsAt)
+            return behavior.status;
         value = chooser.bits();
         return 0;
     });
@@ -185,15 +186,16 @@ std::vector<std::string_view> groupsOf(const GeneratorSettings& settings)
     return groups;
 }
 
-std::int64_t drawsNeeded(const GeneratorSettings& settings)
+std::int64_t expectedDraws(const GeneratorSettings& settings)
 {
     if (settings.mode == GeneratorMode::passphrase)
         return settings.wordCount + (settings.appendNumber ? 1 : 0);
     return settings.length > 0 ? 2 * settings.length - 1 : 0;
 }
 
-/// The one error that the settings and the source's behaviour call for, if any.
-std::optional<GeneratorError> errorDue(const GeneratorSettings& settings, const Weather& weather)
+/// The error that the settings and the source's behaviour lead to, if any.
+std::optional<GeneratorError> expectedError(const GeneratorSettings& settings,
+                                            const SourceBehavior& behavior)
 {
     if (settings.mode == GeneratorMode::password) {
         const auto groupCount = std::ssize(groupsOf(settings));
@@ -202,21 +204,21 @@ std::optional<GeneratorError> errorDue(const GeneratorSettings& settings, const 
         if (settings.requireEveryGroup && settings.length < groupCount)
             return GeneratorError::lengthTooShort(groupCount);
     }
-    if (weather.failsAt && *weather.failsAt < drawsNeeded(settings))
-        return GeneratorError::randomFailure(weather.status);
+    if (behavior.failsAt && *behavior.failsAt < expectedDraws(settings))
+        return GeneratorError::randomFailure(behavior.status);
     return std::nullopt;
 }
 
-/// How many requests, apart from rejected values, lead to the result that is due.
-std::int64_t requestsDue(const GeneratorSettings& settings, const Weather& weather)
+/// The number of requests to the source, without those that yield rejected values.
+std::int64_t expectedRequests(const GeneratorSettings& settings, const SourceBehavior& behavior)
 {
-    const auto error = errorDue(settings, weather);
+    const auto error = expectedError(settings, behavior);
     if (!error)
-        return drawsNeeded(settings);
-    return error->randomStatus() ? weather.failsAt.value_or(0) + 1 : 0;
+        return expectedDraws(settings);
+    return error->randomStatus() ? behavior.failsAt.value_or(0) + 1 : 0;
 }
 
-bool keepsPasswordPromises(const std::string& text, const GeneratorSettings& settings)
+bool isValidPassword(const std::string& text, const GeneratorSettings& settings)
 {
     if (std::ssize(text) != std::max<qint64>(settings.length, 0))
         return false;
@@ -239,9 +241,9 @@ bool isNumberUpTo99(QStringView text)
     return isNumber && number >= 0 && number <= 99 && text == QString::number(number);
 }
 
-// Separators may be empty or look like words or numbers, so a text can be read in several ways:
-// what is followed are all places that a reading can have come to.
-bool keepsPassphrasePromises(QStringView text, const GeneratorSettings& settings)
+// A separator may be empty or equal a word or a number, so a text can be parsed in several ways.
+// The function follows all of them at once: `places` holds the ends of all prefixes that parse.
+bool isValidPassphrase(QStringView text, const GeneratorSettings& settings)
 {
     std::vector<qsizetype> places{0};
     for (qint64 i = 0; i < settings.wordCount; ++i) {
@@ -254,7 +256,7 @@ bool keepsPassphrasePromises(QStringView text, const GeneratorSettings& settings
             }
             for (const std::string_view word : SecureGenerator::words) {
                 const auto size = static_cast<qsizetype>(word.size());
-                // NOLINTNEXTLINE(bugprone-suspicious-stringview-data-usage): its size is given
+                // NOLINTNEXTLINE(bugprone-suspicious-stringview-data-usage): the size is passed too
                 const QLatin1String letters(word.data(), size);
                 const QStringView rest = text.sliced(place);
                 if (rest.isEmpty())
@@ -276,94 +278,94 @@ bool keepsPassphrasePromises(QStringView text, const GeneratorSettings& settings
     });
 }
 
-bool keepsPromises(const QString& text, const GeneratorSettings& settings)
+bool isValidSecret(const QString& text, const GeneratorSettings& settings)
 {
     if (settings.mode == GeneratorMode::passphrase)
-        return keepsPassphrasePromises(text, settings);
+        return isValidPassphrase(text, settings);
     // A character beyond ASCII becomes several bytes, none of which is in any group.
-    return keepsPasswordPromises(text.toStdString(), settings);
+    return isValidPassword(text.toStdString(), settings);
 }
 
-testing::AssertionResult isAsPromised(const Outcome& outcome, const GeneratorSettings& settings,
-                                      const Weather& weather)
+testing::AssertionResult isExpected(const Outcome& outcome, const GeneratorSettings& settings,
+                                    const SourceBehavior& behavior)
 {
-    if (outcome.requests - outcome.rejected != requestsDue(settings, weather))
+    if (outcome.requests - outcome.rejected != expectedRequests(settings, behavior))
         return testing::AssertionFailure()
                << outcome.requests << " requests, " << outcome.rejected << " of them rejected";
 
-    const auto due = errorDue(settings, weather);
+    const auto expected = expectedError(settings, behavior);
     if (const auto* const error = std::get_if<GeneratorError>(&outcome.result)) {
-        if (due == *error)
+        if (expected == *error)
             return testing::AssertionSuccess();
         return testing::AssertionFailure() << testing::PrintToString(*error);
     }
     const auto& text = std::get<QString>(outcome.result);
-    if (!due && keepsPromises(text, settings))
+    if (!expected && isValidSecret(text, settings))
         return testing::AssertionSuccess();
     return testing::AssertionFailure() << testing::PrintToString(text);
 }
 
-TEST(AnySettings, LeadToTheStatedErrorOrToATextThatKeepsEveryPromise)
+TEST(AnySettings, YieldTheExpectedErrorOrAValidSecret)
 {
     const std::uint64_t seed = chosenSeed();
     std::cout << "MORVANE_PROPERTY_SEED=" << seed << '\n';
     Chooser chooser(seed);
     for (int round = 0; round < rounds; ++round) {
         const GeneratorSettings settings = chooser.settings();
-        const Weather weather = chooser.weather();
-        const Outcome outcome = generate(settings, weather, chooser);
-        ASSERT_TRUE(isAsPromised(outcome, settings, weather))
+        const SourceBehavior behavior = chooser.behavior();
+        const Outcome outcome = generate(settings, behavior, chooser);
+        ASSERT_TRUE(isExpected(outcome, settings, behavior))
             << "seed " << seed << ", round " << round << ": " << testing::PrintToString(settings);
     }
 }
 
-struct BrokenPromise
+struct InvalidSecret
 {
     const char* name;
     GeneratorSettings settings;
     QString text;
 };
 
-/// The checks above would be worth nothing if they let such texts pass.
-class BrokenPromiseTest : public testing::TestWithParam<BrokenPromise>
+/// Texts that the checks above must reject.
+class InvalidSecretTest : public testing::TestWithParam<InvalidSecret>
 {
 };
 
-TEST_P(BrokenPromiseTest, IsNoticed)
+TEST_P(InvalidSecretTest, IsRejected)
 {
-    EXPECT_FALSE(keepsPromises(GetParam().text, GetParam().settings));
+    EXPECT_FALSE(isValidSecret(GetParam().text, GetParam().settings));
 }
 
 constexpr GeneratorMode passphrase = GeneratorMode::passphrase;
 
 INSTANTIATE_TEST_SUITE_P(
-    OfPassword, BrokenPromiseTest,
-    testing::Values(BrokenPromise{"TooShort", {.length = 5}, u"aA2!"_s},
-                    BrokenPromise{"TooLong", {.length = 4}, u"aA2!a"_s},
-                    BrokenPromise{"LookAlike", {.length = 4}, u"aA0!"_s},
-                    BrokenPromise{"MissingGroup", {.length = 4}, u"aA2b"_s},
-                    BrokenPromise{"ForeignGroup", {.length = 4, .symbols = false}, u"aA2!"_s},
-                    BrokenPromise{"ForeignCharacter", {.length = 5}, u"aA2!|"_s},
-                    BrokenPromise{"BeyondAscii", {.length = 5}, u"aA2!\u00e4"_s}),
+    OfPassword, InvalidSecretTest,
+    testing::Values(InvalidSecret{"TooShort", {.length = 5}, u"aA2!"_s},
+                    InvalidSecret{"TooLong", {.length = 4}, u"aA2!a"_s},
+                    InvalidSecret{"LookAlike", {.length = 4}, u"aA0!"_s},
+                    InvalidSecret{"MissingGroup", {.length = 4}, u"aA2b"_s},
+                    InvalidSecret{"ForeignGroup", {.length = 4, .symbols = false}, u"aA2!"_s},
+                    InvalidSecret{"ForeignCharacter", {.length = 5}, u"aA2!|"_s},
+                    InvalidSecret{"BeyondAscii", {.length = 5}, u"aA2!\u00e4"_s}),
     rowName);
 
 INSTANTIATE_TEST_SUITE_P(
-    OfPassphrase, BrokenPromiseTest,
+    OfPassphrase, InvalidSecretTest,
     testing::Values(
-        BrokenPromise{"TooFewWords", {.mode = passphrase, .wordCount = 3}, u"tau-tau-7"_s},
-        BrokenPromise{"TooManyWords", {.mode = passphrase, .wordCount = 1}, u"tau-tau-7"_s},
-        BrokenPromise{"ForeignWord", {.mode = passphrase, .wordCount = 1}, u"tee-7"_s},
-        BrokenPromise{"MissingCapital",
+        InvalidSecret{"TooFewWords", {.mode = passphrase, .wordCount = 3}, u"tau-tau-7"_s},
+        InvalidSecret{"TooManyWords", {.mode = passphrase, .wordCount = 1}, u"tau-tau-7"_s},
+        InvalidSecret{"ForeignWord", {.mode = passphrase, .wordCount = 1}, u"tee-7"_s},
+        InvalidSecret{"MissingCapital",
                       {.mode = passphrase, .wordCount = 2, .capitalizeWords = true},
                       u"Tau-tau-7"_s},
-        BrokenPromise{"UnwantedCapital", {.mode = passphrase, .wordCount = 1}, u"Tau-7"_s},
-        BrokenPromise{"MissingNumber", {.mode = passphrase, .wordCount = 1}, u"tau"_s},
-        BrokenPromise{"UnwantedNumber",
+        InvalidSecret{"UnwantedCapital", {.mode = passphrase, .wordCount = 1}, u"Tau-7"_s},
+        InvalidSecret{"MissingNumber", {.mode = passphrase, .wordCount = 1}, u"tau"_s},
+        InvalidSecret{"UnwantedNumber",
                       {.mode = passphrase, .wordCount = 1, .appendNumber = false},
                       u"tau-7"_s},
-        BrokenPromise{"PaddedNumber", {.mode = passphrase, .wordCount = 1}, u"tau-07"_s},
-        BrokenPromise{"NumberOfThreeDigits", {.mode = passphrase, .wordCount = 1}, u"tau-100"_s},
-        BrokenPromise{"NumberWithoutSeparator", {.mode = passphrase, .wordCount = 1}, u"tau7"_s}),
+        InvalidSecret{"PaddedNumber", {.mode = passphrase, .wordCount = 1}, u"tau-07"_s},
+        InvalidSecret{"NumberOfThreeDigits", {.mode = passphrase, .wordCount = 1}, u"tau-100"_s},
+        InvalidSecret{"NumberWithoutSeparator", {.mode = passphrase, .wordCount = 1}, u"tau7"_s}),
     rowName);
 
 } // namespace

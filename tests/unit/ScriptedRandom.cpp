@@ -17,8 +17,7 @@ namespace {
 
 ScriptedRandom* installed = nullptr;
 
-// The source is asked from within a function that must not throw, so a broken expectation can only
-// be reported this way.
+// A function that must not throw calls the source, so a failed expectation ends the program.
 [[noreturn]] void stop(const char* message)
 {
     std::cerr << "ScriptedRandom: " << message << '\n';
@@ -27,7 +26,7 @@ ScriptedRandom* installed = nullptr;
 
 std::int32_t drawUnscripted(std::uint64_t& value)
 {
-    // The default seed, so that a test which fails does so in every run.
+    // The default seed makes a failure reproducible.
     static std::mt19937_64 generator;
     value = generator();
     return 0;

@@ -3,15 +3,15 @@
 
 #pragma once
 
-// Stands in for the system's random source, in every executable that links MorvaneScriptedRandom:
+// Replaces the system's random source in every executable that links MorvaneScriptedRandom:
 //
 //     const ScriptedRandom random{0, 75, 62, 7};
 //     EXPECT_EQ(generator.generate(settings), "abend-zitrone-tau-7");
 //     EXPECT_EQ(random.calls(), 4);
 //
-// A drawn index is the drawn value modulo the bound, so a value below the bound is itself the
-// index. While no script is installed, the source yields the same pseudorandom values in every run
-// of the program: for tests that need secrets but do not care which.
+// A drawn index is the drawn value modulo the bound, so a value below the bound is the index.
+// Without a script, the source yields the same pseudorandom values in every run of the program, for
+// tests that need any secrets.
 
 #include <QtGlobal>
 
@@ -21,24 +21,25 @@
 #include <optional>
 #include <vector>
 
-/// The status that a script's source fails with, which is not 0.
+/// The status, which is not 0, with which the source of a script fails.
 struct FailsWith
 {
     std::int32_t status;
 };
 
-/// The random source for as long as it lives; one made later takes precedence until it dies. A
-/// request of other than 8 bytes stops the program, and so does one beyond the script's end.
+/// The random source during the life of the object. An object that is created later takes
+/// precedence during its own life. A request of a size other than 8 bytes or beyond the end of the
+/// script aborts the program.
 class ScriptedRandom final
 {
 public:
-    /// Sets its argument to the value drawn and returns 0, or returns the status of a failure.
+    /// Sets the argument to the drawn value and returns 0, or returns the status of a failure.
     using Source = std::function<std::int32_t(std::uint64_t&)>;
 
     /// Yields `values` in order.
     ScriptedRandom(std::initializer_list<std::uint64_t> values);
 
-    /// Yields `values` in order; the request after the last of them fails, if a failure is given.
+    /// Yields `values` in order. With a `failure`, the request after the last value fails.
     explicit ScriptedRandom(std::vector<std::uint64_t> values,
                             std::optional<FailsWith> failure = std::nullopt);
 
@@ -47,10 +48,10 @@ public:
 
     ~ScriptedRandom();
 
-    /// How many requests were made, failed ones included.
+    /// The number of requests, including failed ones.
     [[nodiscard]] std::int64_t calls() const { return m_calls; }
 
-    /// Answers one request; called in place of the system.
+    /// Answers a request in place of the system.
     [[nodiscard]] std::int32_t draw(std::uint64_t& value);
 
 private:

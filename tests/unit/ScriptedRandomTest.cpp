@@ -32,7 +32,7 @@ Drawn draw()
     return drawn;
 }
 
-TEST(ScriptedRandom, GivesWayToTheEarlierScriptWhenItDies)
+TEST(ScriptedRandom, RestoresTheEarlierScriptAtItsEnd)
 {
     const ScriptedRandom outer{1, 2};
     {

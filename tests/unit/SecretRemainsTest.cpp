@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// What is left of secrets in memory that has been given back.
+// Checks that no part of a secret remains in freed memory.
 
 #include "FreedMemory.h"
 #include "Model/GeneratorError.h"
@@ -37,28 +37,28 @@ QString repeated(char16_t character, qsizetype count)
     return {count, character};
 }
 
-TEST(FreedMemoryTest, FindsWhatWasNotWiped)
+TEST(FreedMemoryTest, FindsTextThatWasNotWiped)
 {
     const QString needle = repeated(u'q', 10);
-    const FreedMemory memory(needle);
+    const FreedMemory freed(needle);
     {
         const QString copy = QString(needle.constData(), needle.size());
     }
-    EXPECT_EQ(memory.finds(), 1);
+    EXPECT_EQ(freed.matches(), 1);
 }
 
-TEST(SecretTextTest, IsNotInTheMemoryThatItGaveBack)
+TEST(SecretTextTest, IsNotInFreedMemory)
 {
     const QString needle = repeated(u'q', 10);
-    const FreedMemory memory(needle);
+    const FreedMemory freed(needle);
     QString copy = QString(needle.constData(), needle.size());
     SecretText::wipe(copy);
     EXPECT_TRUE(copy.isEmpty());
     copy = QString();
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
-TEST(SecretTextTest, IsLeftToWhoeverSharesIt)
+TEST(SecretTextTest, StaysIfAnotherStringSharesIt)
 {
     QString text = repeated(u'q', 10);
     const QString shared = text;
@@ -91,44 +91,44 @@ TEST_F(SecretRemainsTest, APasswordLeavesNoPartBehind)
 {
     const QString part = repeated(u'a', 4);
     const ScriptedRandom random(zeros(64 + 63));
-    const FreedMemory memory(part);
+    const FreedMemory freed(part);
     QString secret = generator.generate(letters);
     EXPECT_EQ(secret.count(u'a'), 64);
     SecretText::wipe(secret);
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
 TEST_F(SecretRemainsTest, APasswordThatFailsLeavesNoPartBehind)
 {
     const QString part = repeated(u'a', 4);
     const ScriptedRandom random(zeros(50), FailsWith{5});
-    const FreedMemory memory(part);
+    const FreedMemory freed(part);
     EXPECT_THROW(static_cast<void>(generator.generate(letters)), GeneratorError);
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
 TEST_F(SecretRemainsTest, APassphraseLeavesNoPartBehind)
 {
     const ScriptedRandom random(zeros(9));
     QString secret;
-    const FreedMemory memory(u"abend+++");
+    const FreedMemory freed(u"abend+++");
     secret = generator.generate(words);
     EXPECT_TRUE(secret.endsWith(u"abend+++0"_s));
     SecretText::wipe(secret);
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
 TEST_F(SecretRemainsTest, APassphraseThatFailsLeavesNoPartBehind)
 {
     const ScriptedRandom random(zeros(8), FailsWith{5});
-    const FreedMemory memory(u"abend+++");
+    const FreedMemory freed(u"abend+++");
     EXPECT_THROW(static_cast<void>(generator.generate(words)), GeneratorError);
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
-#ifndef __SANITIZE_ADDRESS__ // which keeps local variables elsewhere
+#ifndef __SANITIZE_ADDRESS__ // AddressSanitizer keeps local variables outside the stack
 
-/// The memory of the stack on which `task` ran.
+/// Runs `task` on a stack of its own and returns the memory of that stack.
 std::vector<char> stackOf(std::function<void()> task)
 {
     constexpr std::size_t size = 1 << 20;
@@ -180,62 +180,62 @@ protected:
         return {.length = 10, .uppercase = false, .numbers = false, .symbols = false};
     }
 
-    static void generate(GeneratorViewModel& model, std::uint64_t letter)
+    static void generate(GeneratorViewModel& viewModel, std::uint64_t letter)
     {
         const ScriptedRandom random([letter](std::uint64_t& value) {
             value = letter;
             return 0;
         });
-        model.generate();
+        viewModel.generate();
     }
 };
 
-TEST_F(ReleasedSecretsTest, AreWipedWhenTheHistoryLetsThemGo)
+TEST_F(ReleasedSecretsTest, AreWipedWhenTheHistoryDropsThem)
 {
     const QString secret = repeated(u'a', 10);
-    GeneratorViewModel model;
-    model.setSettings(tenLetters());
-    const FreedMemory memory(secret);
-    generate(model, 0);
-    ASSERT_EQ(model.generated(), secret);
+    GeneratorViewModel viewModel;
+    viewModel.setSettings(tenLetters());
+    const FreedMemory freed(secret);
+    generate(viewModel, 0);
+    ASSERT_EQ(viewModel.generated(), secret);
     for (std::uint64_t letter = 1; letter <= 6; ++letter)
-        generate(model, letter);
-    ASSERT_FALSE(model.history().contains(secret));
-    generate(model, 7);
-    EXPECT_EQ(memory.finds(), 0);
+        generate(viewModel, letter);
+    ASSERT_FALSE(viewModel.history().contains(secret));
+    generate(viewModel, 7);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
-TEST_F(ReleasedSecretsTest, AreWipedOnceNobodyElseHoldsThem)
+TEST_F(ReleasedSecretsTest, AreWipedOnceNoOtherStringSharesThem)
 {
     const QString secret = repeated(u'a', 10);
-    GeneratorViewModel model;
-    model.setSettings(tenLetters());
-    const FreedMemory memory(secret);
-    generate(model, 0);
-    QString view = model.generated();
+    GeneratorViewModel viewModel;
+    viewModel.setSettings(tenLetters());
+    const FreedMemory freed(secret);
+    generate(viewModel, 0);
+    QString view = viewModel.generated();
     for (std::uint64_t letter = 1; letter <= 8; ++letter)
-        generate(model, letter);
+        generate(viewModel, letter);
     EXPECT_EQ(view, secret);
     view = QString();
-    EXPECT_EQ(memory.finds(), 0);
-    generate(model, 9);
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
+    generate(viewModel, 9);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
 TEST_F(ReleasedSecretsTest, AreWipedAtTheEnd)
 {
     const QString secret = repeated(u'a', 10);
-    const FreedMemory memory(secret);
+    const FreedMemory freed(secret);
     {
-        GeneratorViewModel model;
-        model.setSettings(tenLetters());
-        generate(model, 0);
-        generate(model, 1);
-        model.useFromHistory(model.history().constLast());
-        generate(model, 2);
-        ASSERT_TRUE(model.history().contains(secret));
+        GeneratorViewModel viewModel;
+        viewModel.setSettings(tenLetters());
+        generate(viewModel, 0);
+        generate(viewModel, 1);
+        viewModel.useFromHistory(viewModel.history().constLast());
+        generate(viewModel, 2);
+        ASSERT_TRUE(viewModel.history().contains(secret));
     }
-    EXPECT_EQ(memory.finds(), 0);
+    EXPECT_EQ(freed.matches(), 0);
 }
 
 } // namespace

@@ -96,8 +96,8 @@ TEST_P(SecureRandomIndexThreshold, RejectsTheHighestValue)
     EXPECT_EQ(random.calls(), 2);
 }
 
-// Written as literals, so that the test does not repeat the calculation it checks. The value below
-// the limit always has the last index, because the accepted values are whole runs of all indices.
+// The limits are literals, so that the test does not repeat the calculation. The value below the
+// limit has the last index, because the accepted values consist of whole runs of all indices.
 INSTANTIATE_TEST_SUITE_P(All, SecureRandomIndexThreshold,
                          testing::Values(Threshold{"Bound1", 1, 0xffff'ffff'ffff'ffffU, 0},
                                          Threshold{"Bound2", 2, 0xffff'ffff'ffff'fffeU, 1},
@@ -142,7 +142,7 @@ class SecureRandomFailure : public testing::TestWithParam<std::int32_t>
 {
 };
 
-TEST_P(SecureRandomFailure, CarriesTheVeryStatus)
+TEST_P(SecureRandomFailure, CarriesTheStatus)
 {
     const ScriptedRandom random({}, FailsWith{GetParam()});
     EXPECT_THAT([] { return SecureGenerator().secureIndex(10); },

@@ -19,7 +19,7 @@ using testing::Gt;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-/// On a platform without a clipboard of the system's: Qt keeps one for the program alone.
+/// Runs on the offscreen platform, where Qt provides a clipboard for this program only.
 class SystemClipboardTest : public testing::Test
 {
 protected:
@@ -34,7 +34,7 @@ private:
     QGuiApplication m_application{m_argumentCount, m_arguments.data()};
 };
 
-TEST_F(SystemClipboardTest, HoldsTheSecretAsPlainTextMarkedAsOne)
+TEST_F(SystemClipboardTest, HoldsTheSecretAsPlainTextWithAMark)
 {
     Clipboard::setSecret(QStringLiteral("geheim"));
     EXPECT_EQ(contents().text(), QStringLiteral("geheim"));
@@ -44,7 +44,7 @@ TEST_F(SystemClipboardTest, HoldsTheSecretAsPlainTextMarkedAsOne)
     EXPECT_EQ(contents().mimeData()->data(QStringLiteral("x-kde-passwordManagerHint")), "secret");
 }
 
-TEST_F(SystemClipboardTest, CountsWhatItWritesAndClears)
+TEST_F(SystemClipboardTest, CountsItsWritesAndClears)
 {
     const std::int64_t start = Clipboard::changeCount();
     Clipboard::setSecret(QStringLiteral("geheim"));
@@ -72,7 +72,7 @@ TEST_F(SystemClipboardTest, CountsAnotherWriterOfTheSameText)
     EXPECT_THAT(Clipboard::changeCount(), Gt(written));
 }
 
-TEST_F(SystemClipboardTest, LeavesAnEmptyOfferWhileNoWindowHasTheKeyboard)
+TEST_F(SystemClipboardTest, LeavesAnEmptyOfferWhileNoWindowHasTheFocus)
 {
     Clipboard::setSecret(QStringLiteral("geheim"));
     const QMimeData* const offered = contents().mimeData();

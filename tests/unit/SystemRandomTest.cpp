@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// The system's real source, with the C library's `getrandom` replaced: this program's own
-// definition takes precedence, and passes on to the kernel what no test has scripted.
+// Tests the system's real source. The definition of `getrandom` in this program takes precedence
+// over the C library's, and passes requests on to the kernel unless a test has scripted the
+// answers.
 
 #include "Model/GeneratorError.h"
 #include "Platform/SecureRandom.h"
@@ -30,7 +31,7 @@ static_assert(noexcept(Platform::fillSecureRandom(std::span<std::byte>())));
 
 namespace {
 
-/// What a request to the kernel returns: the number of bytes filled, or -1 with an error number.
+/// The result of a request to the kernel: the number of bytes filled, or -1 with an error number.
 struct Answer
 {
     ssize_t filled;
@@ -62,7 +63,7 @@ protected:
 
     void TearDown() override { scripted = false; }
 
-    /// From now on the kernel answers like this, once each.
+    /// Lets the following requests return the results of `script`, one each.
     static void answerWith(std::vector<Answer> script)
     {
         answers = std::move(script);
@@ -164,7 +165,7 @@ class SystemRandomShortAnswer : public SystemRandom, public testing::WithParamIn
 
 TEST_P(SystemRandomShortAnswer, IsAnInputOutputError)
 {
-    // The error number is left over from an earlier call and must not be taken for this one's.
+    // The error number is that of an earlier call and must be ignored.
     answerWith({{.filled = GetParam(), .error = EINTR}});
     EXPECT_EQ(fill(), EIO);
     EXPECT_THAT(requests, ElementsAre(wholeValue));
@@ -196,7 +197,7 @@ INSTANTIATE_TEST_SUITE_P(OfNumber, SystemRandomError,
                          testing::Values(EAGAIN, EFAULT, EINVAL, ENOSYS, EPERM),
                          testing::PrintToStringParamName());
 
-TEST_F(SystemRandom, IsAskedForEightBytesPerDraw)
+TEST_F(SystemRandom, FillsEightBytesPerDraw)
 {
     answerWith(std::vector<Answer>(39, {.filled = 8, .error = 0}));
     EXPECT_THAT(SecureGenerator().generate({.length = 20}), SizeIs(20));

@@ -23,12 +23,12 @@ namespace {
 
 using ::PrintTo;
 
-/// A line of the Unicode standard's own test of text boundaries.
+/// A line of the Unicode standard's GraphemeBreakTest.txt.
 struct BoundaryCase
 {
     std::string line;
     QString text;
-    /// Where a perceived character ends, in UTF-16 units, in ascending order.
+    /// The ends of the grapheme clusters in UTF-16 units, in ascending order.
     std::vector<qsizetype> ends;
 };
 
@@ -67,7 +67,7 @@ std::vector<BoundaryCase> boundaryCases()
     return cases;
 }
 
-/// The number of cases that the file states at its end. It grows with the version of Unicode.
+/// The number of cases that the last lines of the file state. Later versions of Unicode have more.
 std::size_t statedBoundaryCaseCount()
 {
     constexpr std::string_view label = "# Lines: ";
@@ -91,14 +91,14 @@ TEST_F(StandardBoundaries, AreReadFromAllCases)
     EXPECT_EQ(m_cases.size(), statedBoundaryCaseCount());
 }
 
-TEST_F(StandardBoundaries, GiveTheCountOfPerceivedCharacters)
+TEST_F(StandardBoundaries, GiveTheCountOfGraphemeClusters)
 {
     for (const auto& [line, text, ends] : m_cases) {
         EXPECT_EQ(UnicodeText::graphemeCount(text), std::ssize(ends)) << line;
     }
 }
 
-TEST_F(StandardBoundaries, GiveEveryPrefixOfPerceivedCharacters)
+TEST_F(StandardBoundaries, GiveEveryPrefixOfGraphemeClusters)
 {
     for (const auto& [line, text, ends] : m_cases) {
         EXPECT_EQ(UnicodeText::firstGraphemes(text, 0), QString()) << line;
@@ -118,17 +118,17 @@ struct Counted
     qsizetype count;
 };
 
-class PerceivedCharacterCount : public testing::TestWithParam<Counted>
+class GraphemeClusterCount : public testing::TestWithParam<Counted>
 {
 };
 
-TEST_P(PerceivedCharacterCount, IsWhatAReaderCounts)
+TEST_P(GraphemeClusterCount, IsTheExpectedNumber)
 {
     EXPECT_EQ(UnicodeText::graphemeCount(GetParam().text), GetParam().count);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    All, PerceivedCharacterCount,
+    All, GraphemeClusterCount,
     testing::Values(Counted{"Empty", u""_s, 0}, Counted{"Null", QString(), 0},
                     Counted{"PlainWord", u"abend"_s, 5},
                     Counted{"LineEndOfTwoCharacters", u"a\r\nb"_s, 3},
@@ -144,14 +144,14 @@ INSTANTIATE_TEST_SUITE_P(
                     Counted{"LoneSurrogate", QString(QChar(0xd83d)), 1}),
     rowName);
 
-TEST(FirstPerceivedCharacters, LeavesAShorterTextAsItIs)
+TEST(FirstGraphemeClusters, LeavesAShorterTextAsItIs)
 {
     EXPECT_EQ(UnicodeText::firstGraphemes(u"ab"_s, 3), u"ab"_s);
     EXPECT_EQ(UnicodeText::firstGraphemes(u"a\u0308"_s, 3), u"a\u0308"_s);
     EXPECT_EQ(UnicodeText::firstGraphemes(u""_s, 3), u""_s);
 }
 
-TEST(FirstPerceivedCharacters, NeverCutsACharacterApart)
+TEST(FirstGraphemeClusters, NeverSplitsACluster)
 {
     const QString flags = u"\U0001f1e9\U0001f1ea\U0001f1e6\U0001f1f9"_s;
     EXPECT_EQ(UnicodeText::firstGraphemes(flags, 1), u"\U0001f1e9\U0001f1ea"_s);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Whether the choices drawn from the system's real source are uniform, and whether the measure of
-// it would notice if they were not.
+// Tests that the choices drawn from the system's real source are uniform, and that the statistic
+// detects choices that are not.
 
 #include "ChiSquare.h"
 #include "Printing.h"
@@ -141,11 +141,10 @@ TEST(GuaranteeUniformity, HoldsForAllOrdersOfTheGroupsInFourCharacters)
         << "statistic " << ChiSquare::statistic(counts);
 }
 
-// A password that holds a group just once holds there its guaranteed character, whose place is
-// then the only event of that password for that group. Given which characters were drawn, a
-// uniform shuffle puts it in each of the ten places with the same probability, so over independent
-// passwords the places of one group's single character are uniform. Passwords with more of the
-// group are left out: their places would exclude each other.
+// If a password has a single character of a group, that character is the guaranteed one. A uniform
+// shuffle moves it to each of the ten places with the same probability, so over independent
+// passwords the places of a group's single character are uniform. Passwords with more characters of
+// the group are not counted, because the places of those characters depend on each other.
 TEST(GuaranteeUniformity, HoldsForThePlacesOfTheGroupsInTenCharacters)
 {
     std::array<Counts, 4> counts;
@@ -165,14 +164,14 @@ TEST(GuaranteeUniformity, HoldsForThePlacesOfTheGroupsInTenCharacters)
     }
 }
 
-// Counterparts of what is tested above, made wrong on purpose. They draw from a generator of fixed
-// seed, so that they are caught in every run or in none.
+// Variants of the algorithms above with deliberate errors. They draw from a generator with a fixed
+// seed, so that every run has the same result.
 
 class BiasedIndex : public testing::TestWithParam<std::int64_t>
 {
 };
 
-TEST_P(BiasedIndex, OfEightBitsIsNoticed)
+TEST_P(BiasedIndex, OfEightBitsIsDetected)
 {
     std::mt19937_64 engine;
     Counts counts(cell(GetParam()));
@@ -187,7 +186,7 @@ TEST_P(BiasedIndex, OfEightBitsIsNoticed)
 INSTANTIATE_TEST_SUITE_P(OfBound, BiasedIndex, testing::Values(3, 10, 69, 75, 76, 100),
                          testing::PrintToStringParamName());
 
-TEST(BiasedShuffle, WithPartnersFromTheWholeListIsNoticed)
+TEST(BiasedShuffle, WithPartnersFromTheWholeListIsDetected)
 {
     std::mt19937_64 engine;
     Counts counts(24);
@@ -200,7 +199,7 @@ TEST(BiasedShuffle, WithPartnersFromTheWholeListIsNoticed)
     EXPECT_LT(ChiSquare::pValue(counts), ChiSquare::significance);
 }
 
-TEST(BiasedShuffle, ThatNeverKeepsAnElementIsNoticed)
+TEST(BiasedShuffle, ThatNeverKeepsAnElementIsDetected)
 {
     std::mt19937_64 engine;
     Counts counts(24);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Declarations alone: what macOS has in this header and the GNU C library has not.
+// Declarations of this header that macOS has and the GNU C library lacks.
 
 #pragma once
 

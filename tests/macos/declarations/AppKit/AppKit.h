@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Declarations alone: what the program takes from macOS's AppKit and GNUstep's does not have.
+// Declarations of the parts of macOS's AppKit that the program uses and GNUstep's AppKit lacks.
 
 #pragma once
 

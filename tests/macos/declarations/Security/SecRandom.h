@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Declarations alone: what the program takes from macOS's Security framework.
+// Declarations of the parts of macOS's Security framework that the program uses.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Declarations alone: what the program takes from macOS's event queues.
+// Declarations of the parts of macOS's kernel event queues that the program uses.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Declarations alone: what the program takes from macOS's process tracing.
+// Declarations of the parts of macOS's process tracing that the program uses.
 
 #pragma once
 
