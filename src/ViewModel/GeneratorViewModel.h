@@ -60,8 +60,8 @@ public:
     void setModeIndex(int index);
     /// Whether the settings' mode is `passphrase`.
     [[nodiscard]] bool isPassphrase() const;
-    /// Shortens a separator of more than 3 grapheme clusters to the first 3, by a change of the
-    /// settings of its own; does nothing to a shorter separator.
+    /// Shortens a separator of more than 3 grapheme clusters to the first 3. The shortening is a
+    /// second change of the settings, so an observer sees the long text and the shortened one.
     Q_INVOKABLE void limitSeparator();
 
     /// The displayed secret.
