@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick.Templates as T
-import Morvane.Views
+import Morvane.Views.Controls
 
-// The menu's way to the About window.
-MenuCommand {
+// The menu item that opens the About window.
+MenuItem {
     id: root
 
-    // Asks for the window of this identifier to be opened, or brought to the front if it is open.
+    // The window of this identifier is to be opened, or brought to the front if it is open.
     signal openWindow(string identifier)
 
     action: T.Action {

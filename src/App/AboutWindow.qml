@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import Morvane.App
 import Morvane.Views
+import Morvane.Views.Controls
 
 Window {
     id: root
 
-    color: Style.window
+    readonly property bool hasFocus: activeFocusItem !== null
+
+    color: Theme.window
     flags: Qt.Dialog | Qt.CustomizeWindowHint | Qt.WindowTitleHint | Qt.WindowSystemMenuHint | Qt.WindowCloseButtonHint
     height: content.implicitHeight
     maximumHeight: height
@@ -18,12 +20,6 @@ Window {
     title: "Über Morvane"
     width: content.implicitWidth
 
-    WindowState {
-        id: windowState
-
-        window: root
-    }
-
     AboutView {
         id: content
 
@@ -31,14 +27,14 @@ Window {
     }
 
     Shortcut {
-        enabled: windowState.focused
+        enabled: root.hasFocus
         sequences: ["Escape", "Ctrl+W"]
 
         onActivated: root.close()
     }
 
     Shortcut {
-        enabled: windowState.focused
+        enabled: root.hasFocus
         sequence: "Ctrl+Q"
 
         onActivated: Qt.quit()

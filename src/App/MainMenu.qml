@@ -3,17 +3,14 @@
 import QtQuick
 import QtQuick.Templates as T
 import Morvane.Views
+import Morvane.Views.Controls
 
-// The standard commands of the application, each with its usual key.
-PopupMenu {
+// The standard commands of the application, each with its usual shortcut.
+Menu {
     id: root
 
     required property bool areShortcutsEnabled
-    // The field that had the keyboard last; if none had, text is selected in and copied from the
-    // value.
-    required property TextInput field
-    readonly property string selectedText: field ? field.selectedText : value.selectedText
-    required property ValueText value
+    required property ContentView content
     required property Window window
 
     signal openWindow(string identifier)
@@ -22,36 +19,36 @@ PopupMenu {
         onOpenWindow: identifier => root.openWindow(identifier)
     }
 
-    MenuDivider {
+    MenuSeparator {
     }
 
-    MenuCommand {
+    MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+C"
 
         action: T.Action {
-            enabled: root.selectedText !== ""
+            enabled: root.content.selectedText !== ""
             text: "Kopieren"
 
-            onTriggered: root.field ? root.field.copy() : root.value.copy()
+            onTriggered: root.content.copySelection()
         }
     }
 
-    MenuCommand {
+    MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+A"
 
         action: T.Action {
             text: "Alles auswählen"
 
-            onTriggered: root.field ? root.field.selectAll() : root.value.selectAll()
+            onTriggered: root.content.selectAll()
         }
     }
 
-    MenuDivider {
+    MenuSeparator {
     }
 
-    MenuCommand {
+    MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+M"
 
@@ -62,7 +59,7 @@ PopupMenu {
         }
     }
 
-    MenuCommand {
+    MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+W"
 
@@ -73,10 +70,10 @@ PopupMenu {
         }
     }
 
-    MenuDivider {
+    MenuSeparator {
     }
 
-    MenuCommand {
+    MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+Q"
 

@@ -1,77 +1,64 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQml
 import QtQuick
 import Morvane.App
 import Morvane.Views
+import Morvane.Views.Controls
 
 Window {
     id: root
 
-    // Whether the system has no frame for a window without a title bar.
+    // Whether the program draws the title bar and the edges of the window.
     required property bool clientSideDecorations
+    // A window without the keyboard focus has no focus item, `active` is true for it all the same
+    // while its About window has the focus. Since Qt 6.8, shortcuts match there as well.
+    readonly property bool hasFocus: activeFocusItem !== null
 
-    color: Style.surface
+    color: Theme.surface
     height: minimumHeight
     minimumHeight: content.minimumHeight
     minimumWidth: content.minimumWidth
     width: Math.max(860, minimumWidth)
 
-    onActiveFocusItemChanged: {
-        if (activeFocusItem instanceof TextInput)
-            frame.field = activeFocusItem;
-        else if (activeFocusItem instanceof TextEdit)
-            frame.field = null;
-    }
-
-    WindowState {
-        id: windowState
-
-        window: root
-    }
-
     ContentView {
         id: content
 
         anchors.fill: parent
-        areShortcutsEnabled: windowState.focused
+        areShortcutsEnabled: root.hasFocus
         focus: true
         topInset: root.clientSideDecorations ? 0 : 28
     }
 
-    WindowFrame {
-        id: frame
-
+    ClientSideDecorations {
         anchors.fill: parent
-        value: content.value
+        areShortcutsEnabled: root.hasFocus
+        content: content
         visible: root.clientSideDecorations
         window: root
-        windowState: windowState
 
         onOpenWindow: identifier => root.openWindow(identifier)
     }
 
-    // Of the About window there is at most one, built afresh each time.
-    Loader {
+    Instantiator {
         id: about
-    }
 
-    Connections {
-        function onClosing() {
-            about.source = "";
+        active: false
+
+        AboutWindow {
+            transientParent: root
+
+            onClosing: about.active = false
         }
-
-        target: about.item
     }
 
     // Opens the window of this identifier, or brings it to the front if it is open.
     function openWindow(identifier: string) {
         if (identifier !== "about")
             return;
-        if (!about.item)
-            about.setSource("AboutWindow.qml", {
-                    "transientParent": root
-                });
-        const window = about.item as Window;
+        about.active = true;
+        const window = about.object as Window;
         window.show();
         window.raise();
         window.requestActivate();

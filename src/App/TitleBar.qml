@@ -1,24 +1,24 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import Morvane.Views
+import Morvane.Views.Controls
 
-// What is left of the title bar: by its empty part the window is moved, by its buttons closed,
-// minimised and maximised, and beside them is the menu.
+// Its empty part moves the window. Its buttons open the menu and minimise, maximise and close the
+// window.
 Item {
     id: root
 
     required property bool areShortcutsEnabled
-    required property bool maximized
+    readonly property bool isMaximized: window.visibility === Window.Maximized || window.visibility === Window.FullScreen
     required property Window window
 
-    // Someone wants to see the menu of this button, or no longer.
+    // The menu of `button` is to be opened, or closed if it is open.
     signal menuToggled(Item button)
 
     implicitHeight: 40
 
     function toggleMaximized() {
-        if (root.maximized)
+        if (root.isMaximized)
             root.window.showNormal();
         else
             root.window.showMaximized();
@@ -34,7 +34,7 @@ Item {
             if (Math.hypot(mouse.x - pressedAt.x, mouse.y - pressedAt.y) < Application.styleHints.startDragDistance)
                 return;
             root.window.startSystemMove();
-            // From here on the pointer is the window manager's, which need not tell of its release.
+            // The window manager grabs the pointer and may not report the release of the button.
             enabled = false;
             enabled = true;
         }
@@ -47,42 +47,42 @@ Item {
         anchors.top: parent.top
         spacing: 2
 
-        FrameButton {
+        TitleBarButton {
             id: menuButton
 
             focusPolicy: Qt.TabFocus
+            icon.name: "menu"
             objectName: "menuButton"
-            symbol: "menu"
             text: "Menü"
 
             onClicked: root.menuToggled(menuButton)
         }
 
-        FrameButton {
+        TitleBarButton {
             focusPolicy: Qt.NoFocus
+            icon.name: "window.minimize"
             objectName: "minimizeButton"
-            symbol: "window.minimize"
             text: "Minimieren"
 
             onClicked: root.window.showMinimized()
         }
 
-        FrameButton {
+        TitleBarButton {
             focusPolicy: Qt.NoFocus
+            icon.name: root.isMaximized ? "window.restore" : "window.maximize"
             objectName: "maximizeButton"
-            symbol: root.maximized ? "window.restore" : "window.maximize"
-            text: root.maximized ? "Wiederherstellen" : "Maximieren"
+            text: root.isMaximized ? "Wiederherstellen" : "Maximieren"
 
             onClicked: root.toggleMaximized()
         }
 
-        FrameButton {
+        TitleBarButton {
             focusPolicy: Qt.NoFocus
-            highlight: Style.closeHovered
-            highlightedSymbol: Style.accentText
+            highlightedIcon: Theme.accentText
+            hoveredFill: Theme.closeHovered
+            icon.name: "window.close"
             objectName: "closeButton"
-            pressedHighlight: Style.closePressed
-            symbol: "window.close"
+            pressedFill: Theme.closePressed
             text: "Schließen"
 
             onClicked: root.window.close()

@@ -1,15 +1,20 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import Morvane.Views
+import Morvane.Views.Controls
 
-// What the program is, what it promises, and whose it is.
+// What the program is, its privacy promise and its maker.
 Rectangle {
-    id: root
+    color: Theme.window
+    implicitHeight: Theme.scaled(390)
+    implicitWidth: Theme.scaled(370)
 
-    color: Style.window
-    implicitHeight: Style.scaled(390)
-    implicitWidth: Style.scaled(370)
+    component Line: Label {
+        anchors.left: parent?.left
+        anchors.right: parent?.right
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
 
     Column {
         anchors.centerIn: parent
@@ -17,53 +22,55 @@ Rectangle {
         spacing: 14
         width: parent.width - 2 * 34
 
-        ApplicationIcon {
+        Icon {
             anchors.horizontalCenter: parent.horizontalCenter
-            height: 96
+            color: Theme.text
+            height: width
+            name: "de.morvane.Morvane"
             objectName: "aboutIcon"
             width: 96
         }
 
-        AboutLine {
-            font: Style.fonts.title
+        Line {
+            font: Theme.titleFont
             text: "Morvane"
 
             Accessible.role: Accessible.Heading
         }
 
-        AboutLine {
-            color: Style.secondaryText
+        Line {
+            color: Theme.secondaryText
             text: "Version 1.1"
         }
 
-        AboutLine {
-            font: Style.fonts.headline
+        Line {
+            font: Theme.headlineFont
             text: "Sichere Passwörter. Lokal geschmiedet."
         }
 
         Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
-            color: Style.divider
+            color: Theme.divider
             height: 1
             objectName: "aboutDivider"
-            width: Style.scaled(260)
+            width: Theme.scaled(260)
         }
 
-        AboutLine {
-            color: Style.secondaryText
-            font: Style.fonts.caption
+        Line {
+            color: Theme.secondaryText
+            font: Theme.captionFont
             text: "Keine Cloud, keine Konten, keine Passwortspeicherung."
         }
 
-        AboutLine {
-            font: Style.fonts.credit
+        Line {
+            font: Theme.creditFont
             objectName: "aboutCredit"
             text: "Entwickelt von\nMorvane-Projekt – Morvane-Team"
         }
 
-        AboutLine {
-            color: Style.tertiaryText
-            font: Style.fonts.caption2
+        Line {
+            color: Theme.tertiaryText
+            font: Theme.captionFont
             text: "© 2026 Morvane-Projekt"
         }
     }

@@ -1,37 +1,54 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQml
 import QtQuick
 import Morvane.ViewModel
+import Morvane.Views.Controls
 
-// The content of the main window: settings on the left, the secret on the right. The one view model
-// of the window lives here.
+// The content of the main window: the settings on the left, the secret on the right.
 FocusScope {
     id: root
 
     property bool areShortcutsEnabled: true
-    // The smallest size at which all is readable.
+    // The text field that had the keyboard focus last, unless the secret had it since.
+    property TextField field
+    // The smallest size at which everything is readable.
     readonly property real minimumHeight: Math.max(610, Math.ceil(settingsPanel.implicitHeight), Math.ceil(resultPanel.neededHeight))
     readonly property real minimumWidth: Math.max(760, Math.ceil(settingsPanel.width + divider.width + resultPanel.neededWidth))
     readonly property GeneratorViewModel model: GeneratorViewModel {
     }
-    // How much of the top edge the window's frame covers.
+    readonly property string selectedText: field ? field.selectedText : value.selectedText
+    // The height of the part of the window's title bar that covers the settings.
     property real topInset: 0
     readonly property alias value: resultPanel.value
 
-    // The settings come last: what they are made of is read while the rest is being built.
-    Loader {
+    function copySelection(): void {
+        if (field)
+            field.copy();
+        else
+            value.copy();
+    }
+
+    function selectAll(): void {
+        if (field)
+            field.selectAll();
+        else
+            value.selectAll();
+    }
+
+    SettingsPanel {
         id: settingsPanel
 
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.top: parent.top
+        model: root.model
+        objectName: "settingsPanel"
+        topInset: root.topInset
         width: Math.max(280, Math.ceil(implicitWidth))
 
-        Component.onCompleted: setSource("SettingsPanel.qml", {
-                "model": root.model,
-                "objectName": "settingsPanel",
-                "topInset": Qt.binding(() => root.topInset)
-            })
+        onFieldFocused: field => root.field = field
     }
 
     Rectangle {
@@ -40,7 +57,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.left: settingsPanel.right
         anchors.top: parent.top
-        color: Style.divider
+        color: Theme.divider
         objectName: "panelDivider"
         width: 1
     }
@@ -55,30 +72,20 @@ FocusScope {
         areShortcutsEnabled: root.areShortcutsEnabled
         model: root.model
         objectName: "resultPanel"
+
+        onValueFocused: root.field = null
     }
 
-    // Read and built when it is first needed, and kept from then on.
-    Loader {
-        id: alert
+    Instantiator {
+        active: root.model.errorPresented
 
-        readonly property bool needed: root.model.errorPresented
+        ErrorAlert {
+            message: root.model.errorMessage
+            objectName: "errorAlert"
+            parent: root
+            visible: true
 
-        onNeededChanged: {
-            if (needed && !item)
-                setSource("ErrorAlert.qml", {
-                        "message": Qt.binding(() => root.model.errorMessage),
-                        "objectName": "errorAlert",
-                        "parent": root,
-                        "visible": Qt.binding(() => root.model.errorPresented)
-                    });
+            onDismissed: root.model.errorPresented = false
         }
-    }
-
-    Connections {
-        function onDismissed() {
-            root.model.errorPresented = false;
-        }
-
-        target: alert.item
     }
 }

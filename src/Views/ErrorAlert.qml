@@ -1,72 +1,49 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A modal alert with one button. Return, Space, Escape and the button close it.
-T.Dialog {
+Dialog {
     id: root
 
     required property string message
 
-    // By the user: not when `visible` is withdrawn.
+    // The user closed the alert.
     signal dismissed
 
-    anchors.centerIn: parent
-    closePolicy: T.Popup.CloseOnEscape
-    focus: true
-    implicitHeight: contentHeight + topPadding + bottomPadding
-    implicitWidth: 300
-    modal: true
-    padding: 20
     title: "Einstellung prüfen"
 
     onAccepted: root.dismissed()
     onRejected: root.dismissed()
 
-    T.Overlay.modal: Rectangle {
-        color: Style.scrim
-    }
-    background: Rectangle {
-        border.color: Style.divider
-        color: Style.surface
-        radius: 12
-    }
     contentItem: Column {
         spacing: 10
 
-        Text {
-            color: Style.text
-            font: Style.fonts.headline
+        Label {
+            font: Theme.headlineFont
             horizontalAlignment: Text.AlignHCenter
             objectName: "alertTitle"
             text: root.title
-            textFormat: Text.PlainText
             width: root.availableWidth
             wrapMode: Text.Wrap
+
+            // Screen readers read the title of the dialog itself.
+            Accessible.ignored: true
         }
 
-        Text {
-            color: Style.text
-            font: Style.fonts.body
+        Label {
+            bottomPadding: 14
             horizontalAlignment: Text.AlignHCenter
             objectName: "alertMessage"
             text: root.message
-            textFormat: Text.PlainText
             width: root.availableWidth
             wrapMode: Text.Wrap
-
-            Accessible.name: root.message
-            Accessible.role: Accessible.StaticText
         }
 
-        Item {
-            height: 4
-            width: 1
-        }
-
-        ProminentButton {
+        Button {
             focus: true
+            highlighted: true
             objectName: "alertButton"
             text: "OK"
             width: root.availableWidth

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
 import QtQuick
+import Morvane.Views.Controls
 
-// The newest secrets of the run, of which the user can take one back.
+// The newest secrets of the run. A click on a row takes its secret back into the display.
 Rectangle {
     id: root
 
@@ -11,9 +12,9 @@ Rectangle {
 
     signal chosen(string secret)
 
-    color: Style.box
-    implicitHeight: rows.implicitHeight + 32
-    radius: 12
+    color: Theme.box
+    implicitHeight: rows.implicitHeight + 2 * rows.anchors.margins
+    radius: Theme.boxRadius
 
     Column {
         id: rows
@@ -22,27 +23,63 @@ Rectangle {
         anchors.margins: 16
         spacing: 8
 
-        Text {
-            color: Style.text
-            font: Style.fonts.headline
+        Label {
+            font: Theme.headlineFont
             objectName: "historyHeading"
             text: "Diese Sitzung"
-            textFormat: Text.PlainText
 
-            Accessible.name: text
             Accessible.role: Accessible.Heading
         }
 
         Repeater {
             model: Math.min(4, root.history.length)
 
-            HistoryRow {
+            Button {
+                id: row
+
                 required property int index
+                // Not the button's text, in which "&" makes the next character a shortcut.
+                readonly property string secret: root.history[index] ?? ""
+
+                flat: true
+                font: Theme.rowFont
+                horizontalPadding: 0
+                // Wider than the row, so that its text is aligned with the heading.
+                leftInset: -6
                 objectName: "historyRow" + index
-                secret: root.history[index] ?? ""
+                radius: Theme.rowRadius
+                rightInset: -6
+                verticalPadding: 3
                 width: rows.width
 
+                Accessible.description: "Holt diesen Wert zurück in die Anzeige."
+                Accessible.name: secret
+
                 onClicked: root.chosen(secret)
+
+                contentItem: Label {
+                    color: Theme.secondaryText
+                    elide: Text.ElideRight
+                    font: row.font
+                    maximumLineCount: 1
+                    objectName: "secret"
+                    rightPadding: arrow.width + 8
+                    text: row.secret
+
+                    Accessible.ignored: true
+                }
+
+                Icon {
+                    id: arrow
+
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    color: Theme.secondaryText
+                    height: width
+                    name: "arrow.up.left"
+                    objectName: "arrow"
+                    width: Theme.scaled(14)
+                }
             }
         }
     }

@@ -2,76 +2,80 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import Morvane.ViewModel
+import Morvane.Views.Controls
 
 Column {
     id: root
 
-    required property GeneratorViewModel viewModel
+    // Not `required`: a Repeater sets required properties of this name to its own model.
+    property GeneratorViewModel model
 
-    // The long text is a change of the settings in its own right, and so is the shortened one.
+    signal fieldFocused(TextField field)
+
     Connections {
         function onSettingsChanged() {
-            const separator = root.viewModel.settings.separator;
-            const limited = PerceivedText.first(separator, 3);
-            if (limited !== separator)
-                root.viewModel.settings.separator = limited;
+            root.model.limitSeparator();
         }
 
-        target: root.viewModel
+        target: root.model
     }
 
-    NumberSlider {
+    LabeledSlider {
         from: 3
         name: "Wörter"
         objectName: "wordCount"
         to: 8
-        value: root.viewModel.settings.wordCount // qmllint disable type
+        value: root.model.settings.wordCount // qmllint disable type
         width: parent.width
 
-        onChosen: number => root.viewModel.settings.wordCount = number
+        onChosen: number => root.model.settings.wordCount = number
     }
 
     Column {
         spacing: 6
         width: parent.width
 
-        Text {
-            id: separatorTitle
-
-            color: Style.text
-            font: Style.fonts.callout
+        Label {
+            font: Theme.calloutFont
             objectName: "separatorTitle"
             text: "Trennzeichen"
-            textFormat: Text.PlainText
+
+            Accessible.ignored: true
         }
 
-        LineField {
+        TextField {
+            id: separator
+
             objectName: "separator"
-            placeholderText: separatorTitle.text
-            text: root.viewModel.settings.separator
+            placeholderText: "Trennzeichen"
+            text: root.model.settings.separator
             width: parent.width
 
-            Accessible.name: separatorTitle.text
+            Accessible.name: placeholderText
 
-            onTextEdited: root.viewModel.settings.separator = text
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    root.fieldFocused(separator);
+            }
+            onTextEdited: root.model.settings.separator = text
         }
     }
 
-    Toggle {
-        checked: root.viewModel.settings.capitalizeWords
+    Switch {
+        checked: root.model.settings.capitalizeWords
         objectName: "capitalizeWords"
         text: "Wörter groß beginnen"
         width: parent.width
 
-        onToggled: root.viewModel.settings.capitalizeWords = checked
+        onToggled: root.model.settings.capitalizeWords = checked
     }
 
-    Toggle {
-        checked: root.viewModel.settings.appendNumber
+    Switch {
+        checked: root.model.settings.appendNumber
         objectName: "appendNumber"
         text: "Zahl anhängen"
         width: parent.width
 
-        onToggled: root.viewModel.settings.appendNumber = checked
+        onToggled: root.model.settings.appendNumber = checked
     }
 }

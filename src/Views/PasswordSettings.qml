@@ -2,85 +2,87 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import Morvane.ViewModel
+import Morvane.Views.Controls
 
 Column {
     id: root
 
-    required property GeneratorViewModel viewModel
+    // Not `required`: a Repeater sets required properties of this name to its own model.
+    property GeneratorViewModel model
 
-    NumberSlider {
+    LabeledSlider {
         from: 8
         name: "Länge"
         objectName: "length"
         to: 64
-        value: root.viewModel.settings.length // qmllint disable type
+        value: root.model.settings.length // qmllint disable type
         width: parent.width
 
-        onChosen: number => root.viewModel.settings.length = number
+        onChosen: number => root.model.settings.length = number
     }
 
     Column {
         spacing: 10
         width: parent.width
 
-        Toggle {
-            checked: root.viewModel.settings.lowercase
+        Switch {
+            checked: root.model.settings.lowercase
             objectName: "lowercase"
             text: "Kleinbuchstaben"
             width: parent.width
 
-            onToggled: root.viewModel.settings.lowercase = checked
+            onToggled: root.model.settings.lowercase = checked
         }
 
-        Toggle {
-            checked: root.viewModel.settings.uppercase
+        Switch {
+            checked: root.model.settings.uppercase
             objectName: "uppercase"
             text: "Großbuchstaben"
             width: parent.width
 
-            onToggled: root.viewModel.settings.uppercase = checked
+            onToggled: root.model.settings.uppercase = checked
         }
 
-        Toggle {
-            checked: root.viewModel.settings.numbers
+        Switch {
+            checked: root.model.settings.numbers
             objectName: "numbers"
             text: "Zahlen"
             width: parent.width
 
-            onToggled: root.viewModel.settings.numbers = checked
+            onToggled: root.model.settings.numbers = checked
         }
 
-        Toggle {
-            checked: root.viewModel.settings.symbols
+        Switch {
+            checked: root.model.settings.symbols
             objectName: "symbols"
             text: "Sonderzeichen"
             width: parent.width
 
-            onToggled: root.viewModel.settings.symbols = checked
+            onToggled: root.model.settings.symbols = checked
         }
     }
 
     Rectangle {
-        color: Style.divider
+        color: Theme.divider
         height: 1
         width: parent.width
     }
 
-    Toggle {
-        checked: root.viewModel.settings.avoidAmbiguous
+    Switch {
+        checked: root.model.settings.avoidAmbiguous
         objectName: "avoidAmbiguous"
         text: "Ähnliche Zeichen vermeiden"
         width: parent.width
 
-        onToggled: root.viewModel.settings.avoidAmbiguous = checked
+        onToggled: root.model.settings.avoidAmbiguous = checked
     }
 
-    Toggle {
-        checked: root.viewModel.settings.requireEveryGroup
+    Switch {
+        checked: root.model.settings.requireEveryGroup
         objectName: "requireEveryGroup"
         text: "Jede Gruppe muss vorkommen"
         width: parent.width
 
-        onToggled: root.viewModel.settings.requireEveryGroup = checked
+        onToggled: root.model.settings.requireEveryGroup = checked
     }
 }

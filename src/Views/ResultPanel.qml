@@ -2,22 +2,24 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import Morvane.ViewModel
-import Morvane.Views
+import Morvane.Views.Controls
 
 Rectangle {
     id: root
 
     property bool areShortcutsEnabled: true
     required property GeneratorViewModel model
-    readonly property alias value: value
-
-    // What the panel needs when its secret is as high as it can become.
+    // The height of the panel with a secret of the greatest height.
     readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.largestHeight + 2 * (root.padding + column.spacing)
-    // The longest secrets fit into the smallest window, and shall do so in larger text as well.
-    readonly property real neededWidth: Math.max(buttons.implicitWidth, rating.implicitWidth, Style.scaled(355) + 64) + 2 * root.padding
+    // The longest secrets fit into this width at the default text size and at larger ones.
+    readonly property real neededWidth: Math.max(buttons.implicitWidth, rating.implicitWidth, Theme.scaled(355) + 2 * root.valuePadding) + 2 * root.padding
     readonly property real padding: 30
+    readonly property alias value: value
+    readonly property real valuePadding: 32
 
-    color: Style.surface
+    signal valueFocused
+
+    color: Theme.surface
 
     Column {
         id: column
@@ -27,21 +29,27 @@ Rectangle {
         spacing: 22
         width: parent.width - 2 * root.padding
 
-        SymbolImage {
+        Icon {
             anchors.horizontalCenter: parent.horizontalCenter
-            color: Style.accent
+            color: Theme.accent
             height: width
             name: "sparkles"
             objectName: "icon"
-            width: Style.scaled(34)
+            width: Theme.scaled(34)
         }
 
         ValueText {
             id: value
 
             anchors.horizontalCenter: parent.horizontalCenter
+            isLong: root.model.isLong
             text: root.model.generated
-            width: parent.width - 64
+            width: parent.width - 2 * root.valuePadding
+
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    root.valueFocused();
+            }
         }
 
         Row {
@@ -50,27 +58,23 @@ Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 8
 
-            SymbolLabel {
-                color: Style.strengthColor(root.model.strengthLevel)
-                font: Style.fonts.rating
+            IconLabel {
+                color: Theme.strengthColors[root.model.strengthLevel]
+                font: Theme.ratingFont
+                icon: root.model.strengthSymbol
                 objectName: "strength"
-                symbol: root.model.strengthSymbol
                 text: root.model.strengthTitle
 
                 Accessible.name: text
                 Accessible.role: Accessible.StaticText
             }
 
-            Text {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
-                color: Style.secondaryText
-                font: Style.fonts.rating
+                color: Theme.secondaryText
+                font: Theme.ratingFont
                 objectName: "entropy"
                 text: "· ca. " + Math.trunc(root.model.entropy) + " Bit"
-                textFormat: Text.PlainText
-
-                Accessible.name: text
-                Accessible.role: Accessible.StaticText
             }
         }
 
@@ -80,36 +84,33 @@ Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
 
-            PushButton {
+            Button {
+                icon.name: "arrow.clockwise"
                 objectName: "generate"
-                symbol: "arrow.clockwise"
                 text: "Neu erzeugen"
 
                 onClicked: root.model.generate()
             }
 
-            ProminentButton {
+            Button {
+                highlighted: true
+                icon.name: root.model.copied ? "checkmark" : "doc.on.doc"
                 objectName: "copy"
                 reservedText: "Kopieren"
-                symbol: root.model.copied ? "checkmark" : "doc.on.doc"
                 text: root.model.copied ? "Kopiert" : "Kopieren"
 
                 onClicked: root.model.copyToClipboard()
             }
         }
 
-        Text {
-            color: Style.tertiaryText
-            font: Style.fonts.caption
+        Label {
+            color: Theme.tertiaryText
+            font: Theme.captionFont
             horizontalAlignment: Text.AlignHCenter
             objectName: "clipboardNote"
             text: "Die Zwischenablage wird nach 30 Sekunden geleert, sofern du nichts anderes kopierst."
-            textFormat: Text.PlainText
             width: parent.width
             wrapMode: Text.Wrap
-
-            Accessible.name: text
-            Accessible.role: Accessible.StaticText
         }
 
         HistoryBox {

@@ -1,20 +1,23 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
 import QtQuick
 import Morvane.ViewModel
-import Morvane.Views
+import Morvane.Views.Controls
 
 Rectangle {
     id: root
 
     required property GeneratorViewModel model
-    implicitHeight: topInset + controls.implicitHeight + controls.spacing + note.implicitHeight + 2 * padding
-    implicitWidth: pickerTitle.implicitWidth + 10 + picker.implicitWidth + 2 * padding
     readonly property real padding: 24
-    // What covers the panel at the top.
+    // The height of the part of the window's title bar that covers the panel.
     required property real topInset
 
-    color: Style.window
+    signal fieldFocused(TextField field)
+
+    color: Theme.window
+    implicitHeight: topInset + controls.implicitHeight + controls.spacing + note.implicitHeight + 2 * padding
+    implicitWidth: modeTitle.implicitWidth + mode.spacing + modePicker.implicitWidth + 2 * padding
 
     GeneratorSettingsObserver {
         settings: root.model.settings
@@ -33,66 +36,65 @@ Rectangle {
         objectName: "settingsColumn"
         spacing: 18
 
-        SymbolLabel {
-            font: Style.fonts.title2
+        IconLabel {
+            font: Theme.title2Font
+            icon: "key.horizontal.fill"
             objectName: "title"
-            symbol: "key.horizontal.fill"
             text: "Morvane"
 
             Accessible.name: text
             Accessible.role: Accessible.StaticText
         }
 
-        Item {
-            height: picker.height
+        Row {
+            id: mode
+
+            spacing: 10
             width: parent.width
 
-            Text {
-                id: pickerTitle
+            Label {
+                id: modeTitle
 
                 anchors.verticalCenter: parent.verticalCenter
-                color: Style.text
-                font: Style.fonts.body
                 text: "Art"
-                textFormat: Text.PlainText
+
+                Accessible.ignored: true
             }
 
-            SegmentedPicker {
-                id: picker
+            SegmentedControl {
+                id: modePicker
 
-                anchors.left: pickerTitle.right
-                anchors.leftMargin: 10
-                anchors.right: parent.right
                 choices: root.model.modeTitles
-                currentIndex: root.model.settings.mode // qmllint disable type
-                name: pickerTitle.text
+                currentIndex: root.model.modeIndex
+                name: modeTitle.text
                 objectName: "modePicker"
+                width: parent.width - modeTitle.width - parent.spacing
 
-                onChosen: index => root.model.settings.mode = index
+                onChosen: index => root.model.modeIndex = index
             }
         }
 
-        PasswordSettings {
-            spacing: controls.spacing
-            viewModel: root.model
-            visible: root.model.settings.mode === 0 // qmllint disable type
-            width: controls.width
+        // Each repeater builds the settings of its mode once, or not at all. A Loader of Qt 6.4 cannot
+        // build components that are bound to the names of this file.
+        Repeater {
+            model: root.model.isPassphrase ? 0 : 1
+
+            PasswordSettings {
+                spacing: controls.spacing
+                model: root.model
+                width: controls.width
+            }
         }
 
-        // Read and built when they are first needed, and kept from then on: of a switch that is
-        // built while a screen reader listens, Qt never gives back everything.
-        Loader {
-            readonly property bool needed: root.model.settings.mode === 1 // qmllint disable type
+        Repeater {
+            model: root.model.isPassphrase ? 1 : 0
 
-            visible: needed
-            width: controls.width
+            PassphraseSettings {
+                spacing: controls.spacing
+                model: root.model
+                width: controls.width
 
-            onNeededChanged: {
-                if (needed && !item)
-                    setSource("PassphraseSettings.qml", {
-                            "spacing": controls.spacing,
-                            "viewModel": root.model
-                        });
+                onFieldFocused: field => root.fieldFocused(field)
             }
         }
     }
@@ -107,32 +109,28 @@ Rectangle {
         implicitHeight: noteText.implicitHeight
         objectName: "privacyNote"
 
-        SymbolImage {
-            id: noteSymbol
+        Icon {
+            id: noteIcon
 
             anchors.verticalCenter: parent.verticalCenter
-            color: Style.secondaryText
+            color: Theme.secondaryText
             height: width
             name: "lock.shield"
             objectName: "privacySymbol"
-            width: Style.scaled(18)
+            width: Theme.scaled(18)
         }
 
-        Text {
+        Label {
             id: noteText
 
-            anchors.left: noteSymbol.right
+            anchors.left: noteIcon.right
             anchors.leftMargin: 8
             anchors.right: parent.right
-            color: Style.secondaryText
-            font: Style.fonts.caption
+            color: Theme.secondaryText
+            font: Theme.captionFont
             objectName: "privacyText"
             text: "Alles bleibt auf diesem Mac. Es wird nichts gespeichert oder übertragen."
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
-
-            Accessible.name: text
-            Accessible.role: Accessible.StaticText
         }
     }
 }

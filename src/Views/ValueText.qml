@@ -1,24 +1,24 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import Morvane.ViewModel
 import Morvane.Views
+import Morvane.Views.Controls
 
-// The secret, large, on at most three lines, to be selected and copied in whole or in part. A secret
-// that does not fit is drawn smaller, down to 0.65 of its size, and only then cut short.
+// The secret, large, on at most three lines, selectable in whole or in part. A secret that does not
+// fit is drawn smaller, down to 0.65 of its size, and elided only below that.
 FocusScope {
     id: root
 
+    required property bool isLong
     required property string text
 
     readonly property alias editor: editor
-    readonly property alias selectedText: editor.selectedText
-    readonly property font fullFont: PerceivedText.count(text) <= 38 ? Style.fonts.value : Style.fonts.longValue
-    readonly property int fullSize: fullFont.pixelSize
-    // Of a secret with more than one line: one of at most 38 characters never has three.
+    readonly property font fullFont: isLong ? Theme.longValueFont : Theme.valueFont
+    // Only long secrets have three lines.
     readonly property int largestHeight: 3 * Math.ceil(longMetrics.lineSpacing)
-    readonly property int smallestSize: Math.ceil(0.65 * fullSize)
+    readonly property alias selectedText: editor.selectedText
     readonly property alias size: editor.font.pixelSize
+    readonly property int smallestSize: Math.ceil(0.65 * fullFont.pixelSize)
     readonly property bool truncated: fitting.lineCount > 3
 
     function copy(): void {
@@ -41,25 +41,26 @@ FocusScope {
     FontMetrics {
         id: longMetrics
 
-        font: Style.fonts.longValue
+        font: Theme.longValueFont
     }
 
-    // An editor does not fit its text into a place. This one does, never seen: with lines of the same
-    // height at every size, in a place for three of them.
-    Text {
+    // Finds the size at which the secret fits, because a TextEdit has no `fontSizeMode`. The line
+    // height is fixed, so that three lines fit at every size.
+    Label {
         id: fitting
 
         font: root.fullFont
         fontSizeMode: Text.Fit
         height: 3 * lineHeight
-        lineHeight: 2 * root.fullSize
+        lineHeight: 2 * root.fullFont.pixelSize
         lineHeightMode: Text.FixedHeight
         minimumPixelSize: root.smallestSize
         text: root.text
-        textFormat: Text.PlainText
         visible: false
         width: root.width
         wrapMode: Text.Wrap
+
+        Accessible.ignored: true
     }
 
     TextEdit {
@@ -67,10 +68,10 @@ FocusScope {
 
         anchors.fill: parent
         clip: root.truncated
-        // Where the cut text stands, only the selection of the whole one is seen.
-        color: root.truncated ? "transparent" : Style.text
+        // Behind the elided text, only the selection is visible.
+        color: root.truncated ? "transparent" : Theme.text
         focus: true
-        font: Style.fonts.resized(root.fullFont, fitting.fontInfo.pixelSize)
+        font: Theme.fontOfSize(root.fullFont.family, fitting.fontInfo.pixelSize, root.fullFont.weight)
         horizontalAlignment: TextEdit.AlignHCenter
         objectName: "value"
         persistentSelection: true
@@ -78,7 +79,7 @@ FocusScope {
         selectByKeyboard: true
         selectByMouse: true
         selectedTextColor: color
-        selectionColor: Style.selection
+        selectionColor: Theme.selection
         text: root.text
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
@@ -98,23 +99,23 @@ FocusScope {
         editor: editor
     }
 
-    Text {
+    Label {
         anchors.fill: parent
-        color: Style.text
         elide: Text.ElideRight
         font: editor.font
         horizontalAlignment: Text.AlignHCenter
         maximumLineCount: 3
         objectName: "cutValue"
         text: root.truncated ? root.text : ""
-        textFormat: Text.PlainText
         visible: root.truncated
         wrapMode: Text.Wrap
+
+        Accessible.ignored: true
     }
 
     FocusRing {
-        anchors.margins: -8
+        gap: 8
         radius: 8
-        shown: editor.activeFocus
+        visible: editor.activeFocus
     }
 }

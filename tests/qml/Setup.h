@@ -3,17 +3,25 @@
 
 #pragma once
 
+#include "App/GermanKeyNames.h"
+
+#include <QCoreApplication>
 #include <QObject>
 #include <QQmlEngine>
 
-/// Shows the engine of the view tests where the program's modules are.
+/// Gives the view tests the import path and the key names of the program.
 class Setup : public QObject
 {
     Q_OBJECT
 
 public Q_SLOTS:
+    void applicationAvailable() { QCoreApplication::installTranslator(&m_keyNames); }
+
     void qmlEngineAvailable(QQmlEngine* engine)
     {
         engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     }
+
+private:
+    GermanKeyNames m_keyNames;
 };

@@ -4,6 +4,7 @@ import QtQuick
 import QtTest
 import Morvane.Testing
 import Morvane.Views
+import Morvane.Views.Controls
 
 TestCase {
     id: testCase
@@ -37,7 +38,7 @@ TestCase {
 
     function test_childrenFromTopToBottom() {
         const children = Array.from(column().children);
-        compare(children.map(child => child instanceof ApplicationIcon ? "icon" : child instanceof Text ? child.text : child.objectName), ["icon", "Morvane", "Version 1.1", "Sichere Passwörter. Lokal geschmiedet.", "aboutDivider", "Keine Cloud, keine Konten, keine Passwortspeicherung.", "Entwickelt von\nMorvane-Projekt – Morvane-Team", "© 2026 Morvane-Projekt"]);
+        compare(children.map(child => child instanceof Icon ? "icon" : child instanceof Text ? child.text : child.objectName), ["icon", "Morvane", "Version 1.1", "Sichere Passwörter. Lokal geschmiedet.", "aboutDivider", "Keine Cloud, keine Konten, keine Passwortspeicherung.", "Entwickelt von\nMorvane-Projekt – Morvane-Team", "© 2026 Morvane-Projekt"]);
         for (let i = 1; i < children.length; ++i)
             compare(children[i].y - children[i - 1].y - children[i - 1].height, 14);
     }
@@ -73,37 +74,37 @@ TestCase {
                 "line": 0,
                 "size": 22,
                 "weight": Font.Bold,
-                "color": Style.text
+                "color": Theme.text
             }, {
                 "tag": "version",
                 "line": 1,
                 "size": 13,
                 "weight": Font.Normal,
-                "color": Style.secondaryText
+                "color": Theme.secondaryText
             }, {
                 "tag": "tagline",
                 "line": 2,
                 "size": 13,
                 "weight": Font.DemiBold,
-                "color": Style.text
+                "color": Theme.text
             }, {
                 "tag": "promise",
                 "line": 3,
                 "size": 11,
                 "weight": Font.Normal,
-                "color": Style.secondaryText
+                "color": Theme.secondaryText
             }, {
                 "tag": "credit",
                 "line": 4,
                 "size": 11,
                 "weight": Font.Medium,
-                "color": Style.text
+                "color": Theme.text
             }, {
                 "tag": "rights",
                 "line": 5,
                 "size": 11,
                 "weight": Font.Normal,
-                "color": Style.tertiaryText
+                "color": Theme.tertiaryText
             }];
     }
 

@@ -5,6 +5,7 @@ import QtQuick.Templates as T
 import QtTest
 import Morvane.Testing
 import Morvane.Views
+import Morvane.Views.Controls
 
 TestCase {
     id: testCase
@@ -67,7 +68,7 @@ TestCase {
     }
 
     function verifyContrasts(item: Item, expectedTexts: int) {
-        wait(Style.transition + 50);
+        wait(Theme.transition + 50);
         const found = texts(item);
         const image = grabImage(testCase);
         verify(found.length >= expectedTexts, "texts: " + found.length);
@@ -97,7 +98,7 @@ TestCase {
         // In this order, for otherwise the colours would take their time.
         system.setAppearance(false, true);
         system.setAppearance(data.dark, true);
-        compare(Style.dark, data.dark);
+        compare(Theme.dark, data.dark);
         // One secret for each of the four ratings.
         for (const length of [6, 10, 12, 15]) {
             content.model.settings.length = length;
@@ -177,23 +178,23 @@ TestCase {
 
     function test_theSchemeFollowsTheSystemWhileRunning() {
         system.setAppearance(true, false);
-        verify(Style.dark);
+        verify(Theme.dark);
         verify(waitForRendering(content));
-        compare(grabImage(content).pixel(140, 605), Style.window);
-        verify(luminance(Style.window) < 0.1);
+        compare(grabImage(content).pixel(140, 605), Theme.window);
+        verify(luminance(Theme.window) < 0.1);
         system.setAppearance(false, false);
-        verify(!Style.dark);
+        verify(!Theme.dark);
         verify(waitForRendering(content));
-        compare(grabImage(content).pixel(140, 605), Style.window);
-        verify(luminance(Style.window) > 0.8);
+        compare(grabImage(content).pixel(140, 605), Theme.window);
+        verify(luminance(Theme.window) > 0.8);
     }
 
     function test_reducedMotionLeavesNoTransition() {
-        verify(Style.transition > 0);
-        verify(Style.transition <= 200);
+        verify(Theme.transition > 0);
+        verify(Theme.transition <= 200);
         system.setAppearance(false, true);
-        compare(Style.transition, 0);
-        const toggle = findChild(content, "symbols") as Toggle;
+        compare(Theme.transition, 0);
+        const toggle = findChild(content, "symbols") as Switch;
         const knob = findChild(toggle, "knob") as Item;
         const before = knob.x;
         mouseClick(toggle);
@@ -202,7 +203,7 @@ TestCase {
     }
 
     function test_withMotionAKnobTakesItsTime() {
-        const toggle = findChild(content, "symbols") as Toggle;
+        const toggle = findChild(content, "symbols") as Switch;
         const knob = findChild(toggle, "knob") as Item;
         const before = knob.x;
         mouseClick(toggle);
@@ -287,8 +288,8 @@ TestCase {
 
     function test_fonts(data) {
         system.setFontPixelSize(data.pixels);
-        compare(Style.fonts.body.pixelSize, data.body);
-        verify(Style.fonts.caption.pixelSize >= 11);
+        compare(Theme.bodyFont.pixelSize, data.body);
+        verify(Theme.captionFont.pixelSize >= 11);
         for (let i = 0; i < 4; ++i)
             content.model.generate();
         verifyNothingIsCut();
@@ -362,7 +363,7 @@ TestCase {
             y: 40
         }
 
-        SymbolImage {
+        Icon {
             id: symbol
 
             color: "#102030"
@@ -382,17 +383,17 @@ TestCase {
         y: 300
     }
 
-    PopupMenu {
+    Menu {
         id: menu
 
         x: 1000
 
-        MenuCommand {
+        MenuItem {
             action: commandAction
             shortcut: "Ctrl+1"
         }
 
-        MenuCommand {
+        MenuItem {
             action: otherAction
             shortcut: "Ctrl+2"
         }

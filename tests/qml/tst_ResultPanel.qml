@@ -4,6 +4,7 @@ import QtQuick
 import QtTest
 import Morvane.Testing
 import Morvane.Views
+import Morvane.Views.Controls
 
 TestCase {
     id: testCase
@@ -72,8 +73,8 @@ TestCase {
 
     function test_ratingFollowsTheEntropy(data) {
         content.model.settings.length = data.length;
-        const strength = findChild(content, "strength") as SymbolLabel;
-        compare([strength.text, strength.symbol], [data.title, data.symbol]);
+        const strength = findChild(content, "strength") as IconLabel;
+        compare([strength.text, strength.icon], [data.title, data.symbol]);
         // Red, orange, blue, green.
         fuzzyCompare(strength.color.hsvHue * 360, data.hue, 5);
         compare(shown("entropy"), data.bits);
@@ -226,15 +227,15 @@ TestCase {
     }
 
     function test_theCopyButtonCopiesAndConfirms() {
-        const button = findChild(content, "copy") as LabelButton;
-        compare([button.text, button.symbol], ["Kopieren", "doc.on.doc"]);
+        const button = findChild(content, "copy") as Button;
+        compare([button.text, button.icon.name], ["Kopieren", "doc.on.doc"]);
         const width = button.width;
         mouseClick(button);
         compare(system.clipboardText(), content.model.generated);
-        compare([button.text, button.symbol], ["Kopiert", "checkmark"]);
+        compare([button.text, button.icon.name], ["Kopiert", "checkmark"]);
         compare(button.width, width);
         system.advanceClock(1400);
-        compare([button.text, button.symbol], ["Kopieren", "doc.on.doc"]);
+        compare([button.text, button.icon.name], ["Kopieren", "doc.on.doc"]);
         system.advanceClock(28600);
         compare(system.clipboardText(), "(leer)");
     }
@@ -273,7 +274,7 @@ TestCase {
 
     function test_anEmptyValueIsNotCopiedButTheButtonStaysEnabled() {
         content.model.useFromHistory("");
-        const button = findChild(content, "copy") as LabelButton;
+        const button = findChild(content, "copy") as Button;
         verify(button.enabled);
         mouseClick(button);
         compare(button.text, "Kopieren");
@@ -304,9 +305,9 @@ TestCase {
     }
 
     function test_buttonsStand12Apart() {
-        const generate = findChild(content, "generate") as LabelButton;
-        const copy = findChild(content, "copy") as LabelButton;
-        compare([generate.text, generate.symbol], ["Neu erzeugen", "arrow.clockwise"]);
+        const generate = findChild(content, "generate") as Button;
+        const copy = findChild(content, "copy") as Button;
+        compare([generate.text, generate.icon.name], ["Neu erzeugen", "arrow.clockwise"]);
         compare(copy.x, generate.x + generate.width + 12);
         compare(copy.height, generate.height);
     }
@@ -335,7 +336,7 @@ TestCase {
         const before = rows();
         verify(waitForRendering(content));
         generations.clear();
-        const row = findChild(content, "historyRow2") as HistoryRow;
+        const row = findChild(content, "historyRow2") as Button;
         // Anywhere, also between the text and the arrow.
         mouseClick(row, row.width / 2, 1);
         compare(shown("value"), before[2]);
@@ -366,9 +367,9 @@ TestCase {
     function test_aLongHistoryEntryIsCutShortBeforeItsArrow() {
         content.model.settings.length = 64;
         verify(waitForRendering(content));
-        const row = findChild(content, "historyRow0") as HistoryRow;
+        const row = findChild(content, "historyRow0") as Button;
         const text = findChild(row, "secret") as Text;
-        const arrow = findChild(row, "arrow") as SymbolImage;
+        const arrow = findChild(row, "arrow") as Icon;
         verify(text.truncated);
         compare(text.lineCount, 1);
         compare(text.rightPadding, arrow.width + 8);

@@ -3,18 +3,15 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// Between groups of commands.
+// A line between groups of menu items.
 T.MenuSeparator {
-    id: root
-
     implicitHeight: 9
-    implicitWidth: 1
     width: parent ? parent.width : implicitWidth
 
     contentItem: Item {
         Rectangle {
             anchors.verticalCenter: parent.verticalCenter
-            color: Style.divider
+            color: Theme.divider
             height: 1
             width: parent.width
         }

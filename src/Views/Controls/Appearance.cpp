@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-#include "Views/Appearance.h"
+#include "Views/Controls/Appearance.h"
 
 #include "Platform/SystemAppearance.h"
 

@@ -9,8 +9,8 @@
 #include <QSvgRenderer>
 #include <QtQml/qqmlregistration.h>
 
-/// One of the program's own symbols, drawn in one colour and sharp at any scale of the display.
-class SymbolImage : public QQuickPaintedItem
+/// One of the program's icons, sharp at any scale of the display. Symbols are drawn in `color`.
+class Icon : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -21,15 +21,12 @@ class SymbolImage : public QQuickPaintedItem
 public:
     using QQuickPaintedItem::QQuickPaintedItem;
 
-    /// The symbol's file name without its ending. Empty: nothing is drawn.
+    /// The name of a file in `icons`, without its ending. Nothing is drawn while the name is empty.
     [[nodiscard]] const QString& name() const { return m_name; }
     void setName(const QString& name);
 
     [[nodiscard]] const QColor& color() const { return m_color; }
     void setColor(const QColor& color);
-
-    /// Whether there is a drawing to show.
-    [[nodiscard]] bool isValid() const { return m_drawing.isValid(); }
 
     void paint(QPainter* painter) override;
 

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-#include "Views/SymbolImage.h"
+#include "Views/Controls/Icon.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QPainter>
 
-void SymbolImage::setName(const QString& name)
+void Icon::setName(const QString& name)
 {
     if (name == m_name)
         return;
@@ -16,7 +16,7 @@ void SymbolImage::setName(const QString& name)
     Q_EMIT nameChanged();
 }
 
-void SymbolImage::setColor(const QColor& color)
+void Icon::setColor(const QColor& color)
 {
     if (color == m_color)
         return;
@@ -25,20 +25,18 @@ void SymbolImage::setColor(const QColor& color)
     Q_EMIT colorChanged();
 }
 
-void SymbolImage::load()
+void Icon::load()
 {
     update();
     if (m_name.isEmpty() || !m_color.isValid())
         return;
-    QFile file(QStringLiteral(":/qt/qml/Morvane/Views/symbols/%1.svg").arg(m_name));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning("There is no symbol named %s", qPrintable(m_name));
-        return;
-    }
+    QFile file(QStringLiteral(":/qt/qml/Morvane/Views/Controls/icons/%1.svg").arg(m_name));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("There is no icon named %s", qPrintable(m_name));
     m_drawing.load(file.readAll().replace("currentColor", m_color.name().toLatin1()));
 }
 
-void SymbolImage::paint(QPainter* painter)
+void Icon::paint(QPainter* painter)
 {
     if (m_name.isEmpty())
         return;

@@ -1,21 +1,21 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import Morvane.Views
+import Morvane.Views.Controls
 
-// A symbol and a text beside it, in one colour, in the middle of their place.
+// An icon and a text beside it, in one colour, centred.
 Item {
     id: root
 
-    property color color: Style.text
-    property font font: Style.fonts.body
-    // The widest of the texts that are shown in turn, so that the width stays.
+    property color color: Theme.text
+    property font font: Theme.bodyFont
+    property alias icon: image.name
+    // The widest text that is shown in turn, so that the width stays the same.
     property string reservedText: text
-    property alias symbol: image.name
     property alias text: label.text
 
     implicitHeight: row.implicitHeight
-    implicitWidth: (symbol ? image.width + row.spacing : 0) + Math.max(label.implicitWidth, Math.ceil(reserved.advanceWidth))
+    implicitWidth: (icon ? image.width + row.spacing : 0) + Math.max(label.implicitWidth, Math.ceil(reserved.advanceWidth))
 
     TextMetrics {
         id: reserved
@@ -30,7 +30,7 @@ Item {
         anchors.centerIn: parent
         spacing: Math.round(root.font.pixelSize * 0.45)
 
-        SymbolImage {
+        Icon {
             id: image
 
             anchors.verticalCenter: parent.verticalCenter
@@ -41,13 +41,14 @@ Item {
             width: Math.round(root.font.pixelSize * 1.25)
         }
 
-        Text {
+        Label {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
             color: root.color
             font: root.font
-            textFormat: Text.PlainText
+
+            Accessible.ignored: true
         }
     }
 }

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Morvane.Views.Controls
 
-// A whole number to choose, with its name and its value above the slider.
+// A slider for a whole number, under its name and its value.
 Column {
     id: root
 
@@ -19,26 +20,25 @@ Column {
         height: title.implicitHeight
         width: parent.width
 
-        Text {
+        Label {
             id: title
 
-            color: Style.text
-            font: Style.fonts.body
             text: root.name
-            textFormat: Text.PlainText
+
+            Accessible.ignored: true
         }
 
-        Text {
+        Label {
             anchors.right: parent.right
-            color: Style.secondaryText
-            font: Style.fonts.body
+            color: Theme.secondaryText
             objectName: "number"
             text: root.value
-            textFormat: Text.PlainText
+
+            Accessible.ignored: true
         }
     }
 
-    StepSlider {
+    Slider {
         from: root.from
         objectName: "slider"
         to: root.to
@@ -47,9 +47,9 @@ Column {
 
         Accessible.name: root.name
 
-        onEndChosen: end => root.chosen(end)
-        // Also when a screen reader sets it, which `moved` does not tell. But not when the slider
-        // itself cannot show what it was given: the ends are no rule for the settings.
+        onEndRequested: end => root.chosen(end)
+        // `moved` is not emitted when a screen reader sets the value. A value that the slider has
+        // only clamped to its range is not a choice of the user.
         onValueChanged: {
             if (value !== Math.min(Math.max(root.value, from), to))
                 root.chosen(Math.trunc(value));

@@ -3,13 +3,13 @@
 import QtQuick
 import QtQuick.Templates as T
 import QtTest
-import Morvane.Views
+import Morvane.Views.Controls
 
 TestCase {
     id: testCase
 
     height: 400
-    name: "MenuCommand"
+    name: "MenuItem"
     visible: true
     when: windowShown
     width: 400
@@ -64,10 +64,10 @@ TestCase {
         compare(triggered.count, 0);
     }
 
-    PopupMenu {
+    Menu {
         id: menu
 
-        MenuCommand {
+        MenuItem {
             id: command
 
             shortcut: "Ctrl+1"

@@ -3,11 +3,12 @@
 
 #pragma once
 
+#include <QFont>
+#include <QGuiApplication>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// What the look has to follow: the user's wishes, as far as system and toolkit tell them, at any
-/// time.
+/// The user's preferences that the look follows, from the system and from Qt.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -15,16 +16,19 @@ class Appearance : public QObject
 
     Q_PROPERTY(bool dark READ dark NOTIFY changed FINAL)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed FINAL)
+    Q_PROPERTY(QFont font READ font NOTIFY changed FINAL)
     Q_PROPERTY(double textScale READ textScale NOTIFY changed FINAL)
 
 public:
     explicit Appearance(QObject* parent = nullptr);
 
-    /// Whether text is light on a dark ground: as the system says, or else as the palette is.
+    /// Whether text is light on a dark ground: by the system's preference, or else by the palette.
     [[nodiscard]] static bool dark();
-    /// Whether to leave out all movement that only decorates.
+    /// Whether animations that serve decoration only are left out.
     [[nodiscard]] static bool reducedMotion();
-    /// The height of the user's font in units of 13 pixels, and not less than 1.
+    /// The user's font.
+    [[nodiscard]] static QFont font() { return QGuiApplication::font(); }
+    /// The size of the user's font in units of 13 pixels, 1 or more.
     [[nodiscard]] static double textScale();
 
 Q_SIGNALS:

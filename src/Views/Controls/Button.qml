@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+
+// A push button: `highlighted` fills it with the accent colour, `flat` leaves out the bezel.
+T.Button {
+    id: control
+
+    property color fill: highlighted ? Theme.accentFill : flat ? "transparent" : Theme.controlFill
+    property color hoveredFill: highlighted ? Theme.accentFillHovered : flat ? Theme.flatHovered : Theme.controlHovered
+    property color pressedFill: highlighted ? Theme.accentFillPressed : flat ? Theme.flatPressed : Theme.controlPressed
+    property real radius: Theme.controlRadius
+    // The widest text that the button shows in turn, so that the button keeps its width.
+    property string reservedText: text
+
+    font: Theme.bodyFont
+    horizontalPadding: 16
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    verticalPadding: 7
+
+    Accessible.onPressAction: control.clicked()
+
+    background: Rectangle {
+        border.color: control.highlighted ? "transparent" : Theme.controlBorder
+        border.width: control.flat ? 0 : 1
+        color: control.down ? control.pressedFill : control.hovered ? control.hoveredFill : control.fill
+        radius: control.radius
+
+        Behavior on color  {
+            ColorAnimation {
+                duration: Theme.transition
+            }
+        }
+
+        FocusRing {
+            gap: control.flat ? 0 : 4
+            visible: control.visualFocus
+        }
+    }
+    contentItem: IconLabel {
+        color: control.highlighted ? Theme.accentText : Theme.text
+        font: control.font
+        icon: control.icon.name
+        reservedText: control.reservedText
+        text: control.text
+    }
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+
+// A modal dialog in the middle of the window, over a scrim.
+T.Dialog {
+    anchors.centerIn: parent
+    closePolicy: T.Popup.CloseOnEscape
+    focus: true
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    implicitWidth: 300
+    modal: true
+    padding: 20
+
+    T.Overlay.modal: Rectangle {
+        color: Theme.scrim
+    }
+    background: Rectangle {
+        border.color: Theme.divider
+        color: Theme.surface
+        radius: Theme.boxRadius
+    }
+}

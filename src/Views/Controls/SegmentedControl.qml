@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+
+// All choices side by side, one of them selected. The user's choice is reported by `chosen`, and the
+// owner of the bound `currentIndex` sets the new one.
+FocusScope {
+    id: control
+
+    required property list<string> choices
+    required property int currentIndex
+    required property string name
+
+    signal chosen(int index)
+
+    implicitHeight: Math.ceil(metrics.height) + 10
+    implicitWidth: choices.length * (Math.ceil(widest.implicitWidth) + 12) + 4
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.name: control.name
+    Accessible.role: Accessible.Grouping
+
+    FontMetrics {
+        id: metrics
+
+        font: Theme.headlineFont
+    }
+
+    // As wide as the widest choice, in the weight of the selected one.
+    Label {
+        id: widest
+
+        font: metrics.font
+        text: Array.from(control.choices).join("\n")
+        visible: false
+
+        Accessible.ignored: true
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.segmentTrack
+        radius: 7
+    }
+
+    Rectangle {
+        border.color: Theme.controlBorder
+        color: Theme.segment
+        height: row.height
+        radius: Theme.rowRadius
+        width: row.width / control.choices.length
+        x: row.x + control.currentIndex * width
+        y: row.y
+
+        Behavior on x  {
+            // While the window is laid out, the control has no focus and nothing moves.
+            enabled: control.activeFocus
+
+            NumberAnimation {
+                duration: Theme.transition
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    Row {
+        id: row
+
+        anchors.fill: parent
+        anchors.margins: 2
+
+        Repeater {
+            id: segments
+
+            model: control.choices
+
+            T.RadioButton {
+                id: segment
+
+                required property int index
+                required property string modelData
+
+                autoExclusive: false
+                checkable: false
+                checked: control.currentIndex === index
+                focus: checked
+                focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
+                font: checked ? Theme.headlineFont : Theme.bodyFont
+                height: row.height
+                text: modelData
+                width: row.width / control.choices.length
+
+                background: Rectangle {
+                    color: segment.hovered && !segment.checked ? Theme.segmentHovered : "transparent"
+                    radius: Theme.rowRadius
+
+                    FocusRing {
+                        gap: 0
+                        visible: segment.visualFocus
+                    }
+                }
+                contentItem: Label {
+                    font: segment.font
+                    horizontalAlignment: Text.AlignHCenter
+                    text: segment.text
+                    verticalAlignment: Text.AlignVCenter
+
+                    Accessible.ignored: true
+                }
+
+                Accessible.checkable: true
+                Accessible.checked: checked
+                Accessible.onPressAction: control.chosen(index)
+                Accessible.onToggleAction: control.chosen(index)
+
+                Keys.onLeftPressed: control.move(-1)
+                Keys.onRightPressed: control.move(1)
+                onClicked: control.chosen(index)
+            }
+        }
+    }
+
+    function move(step: int) {
+        const index = control.currentIndex + step;
+        if (index < 0 || index >= control.choices.length)
+            return;
+        control.chosen(index);
+        segments.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
+    }
+}

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 Morvane-Projekt
+// SPDX-License-Identifier: MIT
+pragma Singleton
+import QtQuick
+import Morvane.Views.Controls
+
+// The fonts, colours and measures of the look, in both colour schemes.
+QtObject {
+    readonly property Appearance appearance: Appearance {
+    }
+    readonly property bool dark: appearance.dark
+
+    readonly property font titleFont: textFont(22, Font.Bold)
+    readonly property font title2Font: textFont(17, Font.Bold)
+    readonly property font headlineFont: textFont(13, Font.DemiBold)
+    readonly property font bodyFont: textFont(13, Font.Normal)
+    readonly property font calloutFont: textFont(12, Font.Normal)
+    readonly property font ratingFont: textFont(12, Font.Medium)
+    readonly property font captionFont: textFont(11, Font.Normal)
+    readonly property font creditFont: textFont(11, Font.Medium)
+    readonly property font valueFont: secretFont(28, Font.DemiBold)
+    readonly property font longValueFont: secretFont(22, Font.DemiBold)
+    readonly property font rowFont: secretFont(12, Font.Normal)
+
+    readonly property real boxRadius: 12
+    readonly property real menuRadius: 8
+    readonly property real controlRadius: 6
+    readonly property real rowRadius: 5
+    readonly property real disabledOpacity: 0.4
+    // In milliseconds.
+    readonly property int transition: appearance.reducedMotion ? 0 : 120
+
+    readonly property color window: dark ? "#323232" : "#ececec"
+    readonly property color surface: dark ? "#262626" : "#fafafa"
+    readonly property color box: dark ? "#303030" : "#f0f0f2"
+    readonly property color menu: dark ? "#2e2e30" : "#ffffff"
+    readonly property color scrim: dark ? "#80000000" : "#40000000"
+    readonly property color divider: dark ? "#4a4a4a" : "#d2d2d2"
+
+    readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
+    readonly property color secondaryText: dark ? "#b4b4b8" : "#56565b"
+    readonly property color tertiaryText: dark ? "#a0a0a5" : "#6a6a6f"
+    // Behind selected text, which keeps its colour.
+    readonly property color selection: dark ? "#2f5685" : "#b3d4ff"
+    // The shades of red, orange, blue and green in which text is legible on the surface.
+    readonly property list<color> strengthColors: dark ? ["#ff6961", "#ffb340", "#5eb0ff", "#32d74b"] : ["#c9231a", "#a35200", "#0062cc", "#1a7a2e"]
+
+    readonly property color accent: dark ? "#0a84ff" : "#007aff"
+    // Darker than the accent, for the contrast of the white text on it.
+    readonly property color accentFill: dark ? "#0a6fe0" : "#0068e0"
+    readonly property color accentFillHovered: dark ? "#0a66cf" : "#0061d1"
+    readonly property color accentFillPressed: dark ? "#0a5cbb" : "#0057bd"
+    readonly property color accentText: "#ffffff"
+
+    readonly property color controlBorder: dark ? "#1f1f1f" : "#b4b4b8"
+    readonly property color controlFill: dark ? "#454547" : "#ffffff"
+    readonly property color controlHovered: dark ? "#4e4e51" : "#f5f5f7"
+    readonly property color controlPressed: dark ? "#39393b" : "#e6e6e9"
+    readonly property color flatHovered: dark ? "#3a3a3c" : "#e6e6ea"
+    readonly property color flatPressed: dark ? "#454548" : "#d9d9de"
+    readonly property color closeHovered: "#d70015"
+    readonly property color closePressed: "#b30012"
+    readonly property color track: dark ? "#5a5a5d" : "#c8c8cc"
+    readonly property color trackHovered: dark ? "#666669" : "#bcbcc1"
+    readonly property color knob: dark ? "#e6e6e8" : "#ffffff"
+    readonly property color knobPressed: dark ? "#cfcfd2" : "#f0f0f0"
+    readonly property color segment: dark ? "#636366" : "#ffffff"
+    readonly property color segmentTrack: dark ? "#29292b" : "#dadade"
+    readonly property color segmentHovered: dark ? "#3a3a3c" : "#d0d0d5"
+
+    // The length at the user's text size that is `pixels` long at the default text size.
+    function scaled(pixels: real): int {
+        return Math.round(pixels * appearance.textScale);
+    }
+
+    // A font that leaves nothing to inherit: controls inherit from the desktop's own font for each
+    // kind of control, and every font that differs costs a search for its file.
+    function textFont(pixels: real, weight: int): font {
+        return fontOfSize(appearance.font.family, scaled(pixels), weight);
+    }
+
+    function secretFont(pixels: real, weight: int): font {
+        return fontOfSize("monospace", scaled(pixels), weight);
+    }
+
+    // `pixels` is not scaled.
+    function fontOfSize(family: string, pixels: int, weight: int): font {
+        return Qt.font({
+                "family": family,
+                "hintingPreference": appearance.font.hintingPreference,
+                "pixelSize": pixels,
+                "weight": weight
+            });
+    }
+}
