@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import Morvane.Views
 import Morvane.Views.Controls
 
@@ -25,24 +24,18 @@ Menu {
     MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+C"
+        isAvailable: root.content.selectedText !== ""
+        title: "Kopieren"
 
-        action: T.Action {
-            enabled: root.content.selectedText !== ""
-            text: "Kopieren"
-
-            onTriggered: root.content.copySelection()
-        }
+        onActivated: root.content.copySelection()
     }
 
     MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+A"
+        title: "Alles auswählen"
 
-        action: T.Action {
-            text: "Alles auswählen"
-
-            onTriggered: root.content.selectAll()
-        }
+        onActivated: root.content.selectAll()
     }
 
     MenuSeparator {
@@ -51,23 +44,17 @@ Menu {
     MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+M"
+        title: "Fenster minimieren"
 
-        action: T.Action {
-            text: "Fenster minimieren"
-
-            onTriggered: root.window.showMinimized()
-        }
+        onActivated: root.window.showMinimized()
     }
 
     MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+W"
+        title: "Fenster schließen"
 
-        action: T.Action {
-            text: "Fenster schließen"
-
-            onTriggered: root.window.close()
-        }
+        onActivated: root.window.close()
     }
 
     MenuSeparator {
@@ -76,11 +63,8 @@ Menu {
     MenuItem {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+Q"
+        title: "Morvane beenden"
 
-        action: T.Action {
-            text: "Morvane beenden"
-
-            onTriggered: Qt.quit()
-        }
+        onActivated: Qt.quit()
     }
 }

@@ -48,11 +48,6 @@ bool ResizeBorder::contains(const QPointF& point) const
     return boundingRect().contains(point) && edgesAt(point);
 }
 
-void ResizeBorder::hoverEnterEvent(QHoverEvent* event)
-{
-    setCursor(cursorAt(edgesAt(event->position())));
-}
-
 void ResizeBorder::hoverMoveEvent(QHoverEvent* event)
 {
     setCursor(cursorAt(edgesAt(event->position())));
@@ -61,7 +56,7 @@ void ResizeBorder::hoverMoveEvent(QHoverEvent* event)
 void ResizeBorder::mousePressEvent(QMouseEvent* event)
 {
     window()->startSystemResize(edgesAt(event->position()));
-    // From here on the pointer is the window manager's, which need not tell of its release.
+    // The window manager grabs the pointer and may not report the release of the button.
     ungrabMouse();
 }
 

@@ -6,8 +6,8 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// The edges and corners by which a window without a frame is resized, along its own edges and
-/// corners. What lies within them it leaves to other items.
+/// The strips along the edges of a window without a frame, by which the pointer resizes the window.
+/// The strips lie within the window; events elsewhere go to the items below.
 class ResizeBorder : public QQuickItem
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] bool contains(const QPointF& point) const override;
 
 protected:
-    void hoverEnterEvent(QHoverEvent* event) override;
+    void hoverEnterEvent(QHoverEvent* event) override { hoverMoveEvent(event); }
     void hoverMoveEvent(QHoverEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -15,6 +15,7 @@ Column {
     signal chosen(int number)
 
     spacing: 8
+    width: parent?.width ?? implicitWidth
 
     Item {
         height: title.implicitHeight

@@ -26,7 +26,6 @@ Column {
         objectName: "wordCount"
         to: 8
         value: root.model.settings.wordCount // qmllint disable type
-        width: parent.width
 
         onChosen: number => root.model.settings.wordCount = number
     }
@@ -65,7 +64,6 @@ Column {
         checked: root.model.settings.capitalizeWords
         objectName: "capitalizeWords"
         text: "Wörter groß beginnen"
-        width: parent.width
 
         onToggled: root.model.settings.capitalizeWords = checked
     }
@@ -74,7 +72,6 @@ Column {
         checked: root.model.settings.appendNumber
         objectName: "appendNumber"
         text: "Zahl anhängen"
-        width: parent.width
 
         onToggled: root.model.settings.appendNumber = checked
     }

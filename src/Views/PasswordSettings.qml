@@ -16,7 +16,6 @@ Column {
         objectName: "length"
         to: 64
         value: root.model.settings.length // qmllint disable type
-        width: parent.width
 
         onChosen: number => root.model.settings.length = number
     }
@@ -29,7 +28,6 @@ Column {
             checked: root.model.settings.lowercase
             objectName: "lowercase"
             text: "Kleinbuchstaben"
-            width: parent.width
 
             onToggled: root.model.settings.lowercase = checked
         }
@@ -38,7 +36,6 @@ Column {
             checked: root.model.settings.uppercase
             objectName: "uppercase"
             text: "Großbuchstaben"
-            width: parent.width
 
             onToggled: root.model.settings.uppercase = checked
         }
@@ -47,7 +44,6 @@ Column {
             checked: root.model.settings.numbers
             objectName: "numbers"
             text: "Zahlen"
-            width: parent.width
 
             onToggled: root.model.settings.numbers = checked
         }
@@ -56,7 +52,6 @@ Column {
             checked: root.model.settings.symbols
             objectName: "symbols"
             text: "Sonderzeichen"
-            width: parent.width
 
             onToggled: root.model.settings.symbols = checked
         }
@@ -72,7 +67,6 @@ Column {
         checked: root.model.settings.avoidAmbiguous
         objectName: "avoidAmbiguous"
         text: "Ähnliche Zeichen vermeiden"
-        width: parent.width
 
         onToggled: root.model.settings.avoidAmbiguous = checked
     }
@@ -81,7 +75,6 @@ Column {
         checked: root.model.settings.requireEveryGroup
         objectName: "requireEveryGroup"
         text: "Jede Gruppe muss vorkommen"
-        width: parent.width
 
         onToggled: root.model.settings.requireEveryGroup = checked
     }

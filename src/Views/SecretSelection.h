@@ -8,52 +8,42 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QObject>
-#include <QPointer>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Makes of `editor`, a read-only `TextEdit`, one that shows a secret. What is selected is copied
-/// as a secret: the editor would offer it as a styled document as well, and tell nobody to leave
-/// it. And shortcuts go to the window: the editor would claim them all, those that it has no use
-/// for too.
+/// Treats the selection in `editor`, a read-only `TextEdit`, as a secret: copied, it carries the
+/// secret's mark, and is plain text only. Qt's own copy is styled text as well, without the mark.
 class SecretSelection : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(QQuickItem* editor READ editor WRITE setEditor NOTIFY editorChanged REQUIRED FINAL)
+    Q_PROPERTY(QQuickItem* editor MEMBER m_editor WRITE setEditor REQUIRED FINAL)
 
 public:
     using QObject::QObject;
 
-    [[nodiscard]] QQuickItem* editor() const { return m_editor; }
-
+    /// Set once; `editor` outlives this object.
     void setEditor(QQuickItem* editor)
     {
-        if (m_editor)
-            m_editor->removeEventFilter(this);
         m_editor = editor;
-        if (m_editor)
-            m_editor->installEventFilter(this);
-        Q_EMIT editorChanged();
+        m_editor->installEventFilter(this);
     }
 
-    /// Does nothing while nothing is selected.
+    /// Copies the selected text, if any.
     Q_INVOKABLE void copy() const
     {
-        const QString text = m_editor ? m_editor->property("selectedText").toString() : QString();
+        const QString text = m_editor->property("selectedText").toString();
         if (!text.isEmpty())
             Platform::Clipboard::setSecret(text);
     }
-
-Q_SIGNALS:
-    void editorChanged();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         switch (event->type()) {
         case QEvent::ShortcutOverride:
+            // A TextEdit claims shortcuts that it has no use for; the window needs them.
             event->ignore();
             return true;
         case QEvent::KeyPress:
@@ -69,5 +59,5 @@ protected:
     }
 
 private:
-    QPointer<QQuickItem> m_editor;
+    QQuickItem* m_editor = nullptr;
 };

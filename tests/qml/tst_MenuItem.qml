@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import QtTest
 import Morvane.Views.Controls
 
@@ -16,7 +15,7 @@ TestCase {
 
     function init() {
         command.isShortcutEnabled = true;
-        commandAction.enabled = true;
+        command.isAvailable = true;
         triggered.clear();
     }
 
@@ -59,7 +58,7 @@ TestCase {
     }
 
     function test_theShortcutOfADisabledActionTriggersNothing() {
-        commandAction.enabled = false;
+        command.isAvailable = false;
         keySequence("Ctrl+1");
         compare(triggered.count, 0);
     }
@@ -71,19 +70,14 @@ TestCase {
             id: command
 
             shortcut: "Ctrl+1"
-
-            action: T.Action {
-                id: commandAction
-
-                text: "Befehl"
-            }
+            title: "Befehl"
         }
     }
 
     SignalSpy {
         id: triggered
 
-        signalName: "triggered"
-        target: commandAction
+        signalName: "activated"
+        target: command
     }
 }

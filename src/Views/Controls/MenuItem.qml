@@ -3,13 +3,18 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A menu item: the text of its action, and the shortcut that triggers the same action.
+// A menu item with the shortcut that does the same, also while the menu is closed.
 T.MenuItem {
     id: control
 
-    // Whether the shortcut triggers the action. The menu shows the shortcut in any case.
+    property alias isAvailable: command.enabled
+    // Whether the shortcut is in effect. The menu shows the shortcut in any case.
     property bool isShortcutEnabled: true
     property alias shortcut: shortcutName.sequence
+    property alias title: command.text
+
+    // The item was chosen, or its shortcut was pressed.
+    signal activated
 
     font: Theme.bodyFont
     horizontalPadding: 10
@@ -18,9 +23,17 @@ T.MenuItem {
     verticalPadding: 5
     width: parent ? parent.width : implicitWidth
 
+    action: T.Action {
+        id: command
+
+        shortcut: control.isShortcutEnabled ? control.shortcut : ""
+
+        onTriggered: control.activated()
+    }
+
     Accessible.onPressAction: {
         control.menu.dismiss();
-        control.action.trigger();
+        command.trigger();
     }
 
     background: Rectangle {
@@ -50,16 +63,10 @@ T.MenuItem {
         Accessible.ignored: true
     }
 
-    // Only names the keys. It would not match while the menu is closed; the action's shortcut does.
+    // Only names the keys: while the menu is closed, the shortcut of an action matches, this one not.
     Shortcut {
         id: shortcutName
 
         enabled: false
-    }
-
-    Binding {
-        property: "shortcut"
-        target: control.action
-        value: control.isShortcutEnabled ? control.shortcut : ""
     }
 }

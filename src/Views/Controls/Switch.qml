@@ -12,6 +12,7 @@ T.Switch {
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth
     opacity: enabled ? 1 : Theme.disabledOpacity
     spacing: 8
+    width: parent?.width ?? implicitWidth
 
     contentItem: Label {
         font: control.font
