@@ -74,7 +74,7 @@ list(JOIN checks_without_clangd "," checks_without_clangd)
 add_custom_target(
     analyze
     COMMAND ${RUN_CLANG_TIDY} -clang-tidy-binary ${CLANG_TIDY} -quiet -checks=-*,${checks_without_clangd}
-            -p ${PROJECT_BINARY_DIR} "^${PROJECT_SOURCE_DIR}/(packaging|src|tests/(e2e|qml|unit))/.*[.]cpp$"
+            -p ${PROJECT_BINARY_DIR} "^${PROJECT_SOURCE_DIR}/(src|tests/(e2e|qml|unit))/.*[.]cpp$"
     USES_TERMINAL
     VERBATIM)
 # The checks read generated headers.

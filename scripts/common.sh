@@ -50,5 +50,5 @@ own_sources() {
     for extension in "$@"; do
         names+=(-o -name "*.$extension")
     done
-    find packaging src tests -type f '(' "${names[@]:1}" ')' -print0 | sort -z
+    find src tests -type f '(' "${names[@]:1}" ')' -print0 | sort -z
 }
