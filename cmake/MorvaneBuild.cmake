@@ -79,11 +79,13 @@ function(morvane_strict_sources)
                            "$<TARGET_PROPERTY:MorvaneWarnings,INTERFACE_COMPILE_OPTIONS>")
 endfunction()
 
-set(MORVANE_SANITIZERS "" CACHE STRING "What -fsanitize= is given, such as address,undefined")
+set(MORVANE_SANITIZERS "" CACHE STRING "List for ECM_ENABLE_SANITIZERS, such as address;undefined")
 if(MORVANE_SANITIZERS)
-    add_compile_options(-fsanitize=${MORVANE_SANITIZERS} -fno-sanitize-recover=all
-                        -fno-omit-frame-pointer)
-    add_link_options(-fsanitize=${MORVANE_SANITIZERS})
+    find_package(ECM 5.103 REQUIRED NO_MODULE)
+    set(ECM_ENABLE_SANITIZERS ${MORVANE_SANITIZERS})
+    include(${ECM_MODULE_DIR}/ECMEnableSanitizers.cmake)
+    # UndefinedBehaviorSanitizer continues after an error by default.
+    add_compile_options(-fno-sanitize-recover=all)
 endif()
 
 # Translating bindings to C++ as well would double the program's size, and neither start it faster
