@@ -1,15 +1,17 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-# The target lint runs the checks of .clang-tidy on each C++ file of the project that has changed
-# since the checks last passed on it.
+# Target lint: runs the checks of .clang-tidy on each C++ file that has changed since its last
+# successful check.
 #
-# clangd applies them to the declarations of the file itself, in 2 s a file; clang-tidy 19 applies
-# them to those of all included headers as well before it discards the results, in 20 s a file.
-# The target analyze runs clang-tidy itself on all files for the checks that clangd leaves out: those
-# that follow paths and the flow of data, and one that needs every preprocessor directive.
+# The checks run in clangd, which takes 2 s per file because it checks the declarations of that file
+# only. clang-tidy 19 takes 20 s per file because it also checks the declarations of all included
+# headers and then discards the results.
+#
+# Target analyze: runs clang-tidy on all files for the checks that clangd does not support. These
+# analyse paths or data flow, or need all preprocessor directives.
 
-# One version of each tool, because each version finds something else.
+# The version is fixed because each version reports different findings.
 find_program(CLANGD clangd-19 REQUIRED)
 find_program(CLANG_TIDY clang-tidy-19 REQUIRED)
 find_program(RUN_CLANG_TIDY run-clang-tidy-19 REQUIRED)
@@ -20,7 +22,7 @@ set(configuration ${PROJECT_SOURCE_DIR}/.clang-tidy ${PROJECT_SOURCE_DIR}/.clang
 set(stamps)
 set(sources)
 
-# morvane_all_targets(RESULT FOLDER)
+# morvane_all_targets(RESULT FOLDER) lists the targets of the folder and its subfolders.
 function(morvane_all_targets result folder)
     get_directory_property(targets DIRECTORY ${folder} BUILDSYSTEM_TARGETS)
     get_directory_property(subfolders DIRECTORY ${folder} SUBDIRECTORIES)
@@ -50,8 +52,8 @@ foreach(target IN LISTS targets)
         set(stamp ${PROJECT_BINARY_DIR}/lint/${name}.passed)
         cmake_path(GET stamp PARENT_PATH stamp_folder)
         file(MAKE_DIRECTORY ${stamp_folder})
-        # The object files change with every header that is included, and are built from generated
-        # headers that the checks need as well.
+        # Depending on the object files repeats the check when an included header changes, and
+        # generates the headers that the check reads.
         add_custom_command(
             OUTPUT ${stamp}
             COMMAND ${CLANGD} --check=${file} --check-locations=0 --check-completion=0
@@ -66,16 +68,17 @@ endforeach()
 
 add_custom_target(lint DEPENDS ${stamps})
 
-# The analyzer takes the way in which Google Benchmark registers benchmarks for a leak, so tests/bench
-# is left out.
-set(checks_without_clangd clang-analyzer-* bugprone-unchecked-optional-access bugprone-use-after-move
-             modernize-macro-to-enum)
+# tests/bench is left out because the analyzer reports a leak in Google Benchmark's registration of
+# benchmarks.
+set(checks_without_clangd clang-analyzer-* bugprone-unchecked-optional-access
+                          bugprone-use-after-move modernize-macro-to-enum)
 list(JOIN checks_without_clangd "," checks_without_clangd)
 add_custom_target(
     analyze
-    COMMAND ${RUN_CLANG_TIDY} -clang-tidy-binary ${CLANG_TIDY} -quiet -checks=-*,${checks_without_clangd}
-            -p ${PROJECT_BINARY_DIR} "^${PROJECT_SOURCE_DIR}/(src|tests/(e2e|qml|unit))/.*[.]cpp$"
+    COMMAND ${RUN_CLANG_TIDY} -clang-tidy-binary ${CLANG_TIDY} -quiet
+            -checks=-*,${checks_without_clangd} -p ${PROJECT_BINARY_DIR}
+            "^${PROJECT_SOURCE_DIR}/(src|tests/(e2e|qml|unit))/.*[.]cpp$"
     USES_TERMINAL
     VERBATIM)
-# The checks read generated headers.
+# clang-tidy reads generated headers, which lint builds.
 add_dependencies(analyze lint)
