@@ -2,25 +2,26 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# What all scripts begin with: strict mode, the top folder as the current one, no questions asked.
-# Sourced by the other scripts.
+# Common start of all scripts: strict mode, the top folder as working directory, no interactive
+# input. Sourced by the other scripts.
 
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# A closed standard input would become the first file that anything opens.
+# A program that starts with a closed standard input would get descriptor 0 for its first file.
 exec </dev/null
 
 # shellcheck source=scripts/packages.sh
 source scripts/packages.sh
 
-# Where Debian keeps qmllint and qmlformat of Qt 6; elsewhere on the search path, wrappers of these
-# names look for them among the tools of whatever Qt is the default.
+# Debian installs qmllint and qmlformat of Qt 6 in this folder. /usr/bin holds wrappers of the same
+# names, which run the tools of the default Qt version.
 PATH=/usr/lib/qt6/bin:$PATH
 
-# Other versions of qmlformat want another layout, and those of qmllint report other warnings or end
-# with success in spite of them. Debian packages them in the version of its Qt alone.
+# The version of Qt whose qmlformat and qmllint are used. Other versions of qmlformat produce
+# another layout; other versions of qmllint report other warnings, or exit with 0 in spite of
+# warnings. Each Debian release packages these tools in one version only.
 readonly qt_of_linters=6.4
 
 fail() {
@@ -32,9 +33,9 @@ has_qt_of_linters() {
     [[ $(qmllint --version) == *" $qt_of_linters."* ]]
 }
 
-# Builds the program, and nothing if nothing has changed.
+# Builds the program if a source has changed.
 build_program() {
-    # Presets are read by a configuration only; to everything else the build tool attends.
+    # Ninja configures again after a change of a CMakeLists.txt, but not after a change of a preset.
     if ! [[ build/release/build.ninja -nt CMakePresets.json ]]; then
         cmake --preset release
     fi
@@ -43,7 +44,8 @@ build_program() {
     fi
 }
 
-# own_sources EXTENSION... prints the paths of our files with these endings, each ended by NUL.
+# own_sources EXTENSION... prints the paths of all source files with these extensions, separated by
+# NUL characters.
 own_sources() {
     local extension
     local -a names=()
