@@ -19,9 +19,9 @@ add_compile_definitions(QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_NO_CAST_FROM_AS
 # reveal that folder.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
 
-# Hardening against the exploitation of memory errors. dpkg-buildflags sets a part of these flags in
-# builds of the Debian package: _FORTIFY_SOURCE=2 only, and on Debian 12 neither stack clash nor
-# control-flow protection.
+# Hardening against the exploitation of memory errors. In builds of the Debian package,
+# dpkg-buildflags sets only a part of these flags: _FORTIFY_SOURCE=2, no _GLIBCXX_ASSERTIONS, and on
+# Debian 12 neither stack clash nor control-flow protection.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
