@@ -32,6 +32,7 @@ packages[e2e]='
     grim
     mesa-vulkan-drivers
     openbox
+    python3-dbusmock
     python3-pyatspi
     python3-xlib
     strace
