@@ -36,6 +36,10 @@ try:
 except ImportError:
     sys.exit("window_bench: cannot measure without the Python module Xlib (python3-xlib)")
 
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "e2e"))
+
+from servers import Servers, StartError
+
 DEADLINE = 20.0
 """Seconds after which an awaited event counts as missing."""
 
@@ -65,7 +69,7 @@ class Desktop:
 
     def __init__(self, with_bus):
         self._with_bus = with_bus
-        self._processes = []
+        self._servers = Servers()
 
     def __enter__(self):
         self._folder = pathlib.Path(tempfile.mkdtemp(prefix="morvane-bench-"))
@@ -77,9 +81,7 @@ class Desktop:
         return self
 
     def __exit__(self, *_):
-        for process in reversed(self._processes):
-            process.terminate()
-            process.wait()
+        self._servers.stop()
         shutil.rmtree(self._folder, ignore_errors=True)
 
     def _open(self):
@@ -94,13 +96,12 @@ class Desktop:
             "LC_ALL": "C.UTF-8",
             "DBUS_SESSION_BUS_ADDRESS": "disabled:",
         }
-        screen = f"{WIDTH}x{HEIGHT}x24"
-        self.environment["DISPLAY"] = ":" + self._announced(
-            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", screen, "-nolisten", "tcp"]
+        self.environment["DISPLAY"] = self._servers.start_x_server(
+            f"{WIDTH}x{HEIGHT}", self.environment
         )
         if self._with_bus:
-            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
-                ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"]
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._servers.start_session_bus(
+                self.environment
             )
 
         self.display = display.Display(self.environment["DISPLAY"])
@@ -115,30 +116,6 @@ class Desktop:
         self.point_at(WIDTH - 1, HEIGHT - 1)
         self.root.damage_create(damage.DamageReportRawRectangles)
         self.display.sync()
-
-    def _announced(self, command):
-        """Starts `command`, which writes one line to the descriptor {fd} once it is ready."""
-        reading, writing = os.pipe()
-        try:
-            self._processes.append(
-                subprocess.Popen(
-                    [part.format(fd=writing) for part in command],
-                    env=self.environment,
-                    stdin=subprocess.DEVNULL,
-                    stderr=subprocess.DEVNULL,
-                    pass_fds=[writing],
-                )
-            )
-        except FileNotFoundError:
-            raise CannotMeasure(f"there is no {command[0]}") from None
-        finally:
-            os.close(writing)
-            pipe = os.fdopen(reading)
-        with pipe:
-            line = pipe.readline().strip()
-        if not line:
-            raise CannotMeasure(f"{command[0]} did not start")
-        return line
 
     def events(self, until):
         """Yields what the X server reports until then, with the time at which it arrived."""
@@ -480,5 +457,5 @@ def main():
 if __name__ == "__main__":
     try:
         main()
-    except CannotMeasure as reason:
+    except (CannotMeasure, StartError) as reason:
         sys.exit(f"window_bench: cannot measure: {reason}")

@@ -11,6 +11,8 @@ import subprocess
 import tempfile
 import time
 
+from servers import Servers
+
 DEADLINE = 20.0
 """Seconds after which an awaited event counts as missing. Passing tests never wait this long."""
 
@@ -39,7 +41,7 @@ class Desktop:
     """Starts everything on creation; `close` ends exactly what was started."""
 
     def __init__(self):
-        self._processes = []
+        self._servers = Servers()
         self._folder = pathlib.Path(tempfile.mkdtemp(prefix="morvane-e2e-"))
         self.home = self._folder / "home"
         self.home.mkdir()
@@ -57,9 +59,7 @@ class Desktop:
         )
         try:
             self._start_display()
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
-                ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"]
-            )
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._servers.start_session_bus()
         except BaseException:
             self.close()
             raise
@@ -67,31 +67,11 @@ class Desktop:
     def _start_display(self):
         # Another server that ends at this moment can take a display's name along with it.
         for _ in range(5):
-            os.environ["DISPLAY"] = ":" + self._announced(
-                ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "2600x1800x24", "-nolisten", "tcp"]
-            )
-            manager = self._start(["openbox"])
+            os.environ["DISPLAY"] = self._servers.start_x_server("2600x1800")
+            manager = self._servers.start(["openbox"])
             if until(lambda: self._window_manager_runs() or manager.poll(), "a window manager") is True:
                 return
         raise AssertionError("no display stays")
-
-    def _start(self, command, **options):
-        process = subprocess.Popen(
-            command, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options
-        )
-        self._processes.append(process)
-        return process
-
-    def _announced(self, command):
-        """Starts `command`, which writes one line to the descriptor {fd} once it is ready."""
-        reading, writing = os.pipe()
-        self._start([part.format(fd=writing) for part in command], pass_fds=[writing])
-        os.close(writing)
-        with os.fdopen(reading) as pipe:
-            line = pipe.readline().strip()
-        if not line:
-            raise AssertionError(f"did not start: {command[0]}")
-        return line
 
     @staticmethod
     def _window_manager_runs():
@@ -105,9 +85,7 @@ class Desktop:
         return file
 
     def close(self):
-        for process in reversed(self._processes):
-            process.terminate()
-            process.wait()
+        self._servers.stop()
         shutil.rmtree(self._folder, ignore_errors=True)
 
 

@@ -191,7 +191,7 @@ class WestonDesktop(Desktop):
     def _start_display(self):
         super()._start_display()
         runtime = self._folder / "runtime"
-        self._start(["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0"])
+        self._servers.start(["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0"])
         os.environ["WAYLAND_DISPLAY"] = until(
             lambda: a_socket(runtime, "wayland-?"), "the compositor's socket"
         )

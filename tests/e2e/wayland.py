@@ -79,7 +79,7 @@ class WaylandDesktop(Desktop):
             for path in (folder, configuration):
                 shutil.chown(path, "nobody", "nogroup")
             command[:0] = ["setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups"]
-        self._start(
+        self._servers.start(
             command,
             cwd=folder,
             env={
