@@ -106,7 +106,7 @@ class Program:
     ):
         self.desktop = desktop
         environment = {**os.environ, **(variables or {})}
-        environment.pop("XDG_CACHE_HOME")
+        environment.pop("XDG_CACHE_HOME", None)
         if preload:
             environment["LD_PRELOAD"] = preload
             # In the sanitizer build, another library in front of the sanitizer's is intended.

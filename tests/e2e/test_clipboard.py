@@ -8,11 +8,13 @@ The long waits run side by side, each on a desktop of its own.
 
 import concurrent.futures
 import contextlib
+import itertools
 import os
 import re
 import subprocess
 import time
 import unittest
+from unittest import mock
 
 from desktop import DEADLINE, Desktop, Program, first, key, output, role_name, until
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
@@ -264,7 +266,7 @@ def text_copied_in_another_window_stays(session):
         assert_stays(session, "etwas anderes")
 
 
-STORIES = (
+SCENARIOS = (
     cleared_when_due,
     other_text_stays,
     same_text_of_another_program_stays,
@@ -274,40 +276,37 @@ STORIES = (
 )
 
 
-def tell(story, session):
+def run_scenario(scenario, session):
     session.start()
-    story(session)
+    scenario(session)
 
 
-class Waits(unittest.TestCase):
-    """Every story on X11 and on Wayland; `setUpClass` starts them all."""
+class ParallelScenarios:
+    """A mixin for test cases: `setUpClass` starts all scenarios, each on its own desktop."""
+
+    cases = ()
+    """Pairs of a subclass of Session and a scenario, which is a function of a session."""
 
     @classmethod
     def setUpClass(cls):
-        options = os.environ.get("ASAN_OPTIONS")
-        workers = concurrent.futures.ThreadPoolExecutor(2 * len(STORIES))
+        workers = concurrent.futures.ThreadPoolExecutor(len(cls.cases))
         cls.addClassCleanup(workers.shutdown)
-        cls.told = {}
-        # One after the other, for a desktop becomes this process's own when it starts.
-        for kind in (X11Session, WaylandSession):
-            for story in STORIES:
-                session = kind()
+        cls.results = []
+        # A desktop changes the environment of this process, so one desktop starts after the other.
+        with mock.patch.dict(os.environ):
+            for session_type, scenario in cls.cases:
+                session = session_type()
                 cls.addClassCleanup(session.close)
-                cls.told[kind, story] = workers.submit(tell, story, session)
-        if options is not None:
-            os.environ["ASAN_OPTIONS"] = options
+                cls.results.append(workers.submit(run_scenario, scenario, session))
+
+    def test_every_scenario(self):
+        for (session_type, scenario), result in zip(self.cases, self.results):
+            with self.subTest(session=session_type.__name__, scenario=scenario.__name__):
+                result.result()
 
 
-def add_test(kind, name, story):
-    def test(self):
-        self.told[kind, story].result()
-
-    setattr(Waits, f"test_{name}_{story.__name__}", test)
-
-
-for story in STORIES:
-    add_test(X11Session, "x11", story)
-    add_test(WaylandSession, "wayland", story)
+class Clearing(ParallelScenarios, unittest.TestCase):
+    cases = tuple(itertools.product((X11Session, WaylandSession), SCENARIOS))
 
 
 class Copying(unittest.TestCase):

@@ -7,7 +7,6 @@ compositor that is one itself.
 Each has a desktop of its own, and they run side by side.
 """
 
-import concurrent.futures
 import itertools
 import os
 import pathlib
@@ -24,6 +23,7 @@ from test_clipboard import (
     GRACE,
     SECRET,
     STAYS,
+    ParallelScenarios,
     Session,
     WaylandSession,
     X11Session,
@@ -336,49 +336,17 @@ CLIPMAN_AFTER_CLEARING = (
     else cleared_secret_is_not_brought_back
 )
 
-STORIES = (
-    (Clipman, text_without_owner_is_brought_back),
-    (Clipman, CLIPMAN_AFTER_CLEARING),
-    (Clipman, quitting_waits_for_no_manager),
-    (SettingsDaemon, secret_outlives_the_program),
-    (CopyQ, secret_marked_as_one_is_not_kept),
-    (Weston, text_without_owner_is_brought_back),
-    (Weston, cleared_secret_is_not_brought_back_by_compositor),
-)
 
-
-def tell(story, session):
-    session.start()
-    story(session)
-
-
-class Managers(unittest.TestCase):
-    """Every story; `setUpClass` starts them all."""
-
-    @classmethod
-    def setUpClass(cls):
-        options = os.environ.get("ASAN_OPTIONS")
-        workers = concurrent.futures.ThreadPoolExecutor(len(STORIES))
-        cls.addClassCleanup(workers.shutdown)
-        cls.told = {}
-        # One after the other, for a desktop becomes this process's own when it starts.
-        for kind, story in STORIES:
-            session = kind()
-            cls.addClassCleanup(session.close)
-            cls.told[kind, story] = workers.submit(tell, story, session)
-        if options is not None:
-            os.environ["ASAN_OPTIONS"] = options
-
-
-def add_test(kind, story):
-    def test(self):
-        self.told[kind, story].result()
-
-    setattr(Managers, f"test_{kind.__name__.lower()}_{story.__name__}", test)
-
-
-for kind, story in STORIES:
-    add_test(kind, story)
+class ClipboardManagers(ParallelScenarios, unittest.TestCase):
+    cases = (
+        (Clipman, text_without_owner_is_brought_back),
+        (Clipman, CLIPMAN_AFTER_CLEARING),
+        (Clipman, quitting_waits_for_no_manager),
+        (SettingsDaemon, secret_outlives_the_program),
+        (CopyQ, secret_marked_as_one_is_not_kept),
+        (Weston, text_without_owner_is_brought_back),
+        (Weston, cleared_secret_is_not_brought_back_by_compositor),
+    )
 
 
 if __name__ == "__main__":
