@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Loaded in front of the C library, this makes the system's random source fail for the program's
-// draws. Libraries ask for other sizes, and are served.
+// A library for LD_PRELOAD that replaces getrandom: requests of 8 bytes, which only the program
+// makes, fail; requests of other sizes, which libraries make, are passed on.
 //
-// If the environment names a file, draws are counted in it, and fail only while it says so.
+// If MORVANE_RANDOM_CONTROL names a file, it holds a Control: the number of the program's requests,
+// and whether they fail.
 
 #include <atomic>
 #include <cerrno>
@@ -28,11 +29,11 @@ struct Control
 
 Control* sharedControl()
 {
-    static Control alone{.draws = 0, .fails = 1};
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): before there is a second thread
+    static Control alwaysFailing{.draws = 0, .fails = 1};
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): runs before a second thread starts
     const char* const name = std::getenv("MORVANE_RANDOM_CONTROL");
     if (!name)
-        return &alone;
+        return &alwaysFailing;
     const int file = ::open(name, O_RDWR | O_CLOEXEC);
     void* const page
         = ::mmap(nullptr, sizeof(Control), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
@@ -48,8 +49,8 @@ Control& control()
     return *shared;
 }
 
-// Before the program can keep itself from opening files.
-[[maybe_unused]] const Control& early = control();
+// Opens the file before the program's sandbox forbids that.
+[[maybe_unused]] const Control& openedEarly = control();
 
 } // namespace
 
@@ -63,7 +64,7 @@ extern "C" ssize_t getrandom(void* buffer, std::size_t size, unsigned int flags)
         }
     }
     using Function = ssize_t (*)(void*, std::size_t, unsigned int);
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what dlsym yields has no type
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dlsym returns void*
     static const auto next = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "getrandom"));
     return next(buffer, size, flags);
 }

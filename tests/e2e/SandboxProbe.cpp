@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Loaded in front of the C library, this does from inside the program what a faulty library might
-// do: it writes, sends and starts things, from every thread, at the moment at which the first
-// secret is drawn. What came of it is told on standard error, a line each:
+// A library for LD_PRELOAD that attempts forbidden operations inside the program: in every thread,
+// when the program draws its first random number, it tries to write files, open sockets and start
+// processes. Each attempt writes one line to standard error:
 //
-//     probe <thread> <attempt> <0, or the error's number>
+//     probe <thread> <attempt> <0 for success, otherwise the value of errno>
 
 #include <algorithm>
 #include <array>
@@ -34,10 +34,10 @@
 
 namespace {
 
-/// Paths in the home folder; the first two are there before.
+/// Paths in the home folder. The test creates `file` and `folder`; `fresh` does not exist.
 struct Paths
 {
-    std::string home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe): one thread asks
+    std::string home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe): runs in one thread
     std::string file = home + "/file";
     std::string folder = home + "/folder";
     std::string fresh = home + "/fresh";
@@ -45,8 +45,8 @@ struct Paths
 
 const Paths& paths()
 {
-    static const Paths all;
-    return all;
+    static const Paths instance;
+    return instance;
 }
 
 int errorOf(long result)
@@ -54,8 +54,8 @@ int errorOf(long result)
     return result < 0 ? errno : 0;
 }
 
-/// Whether the descriptor could be had; closes it.
-int errorOfOpening(int descriptor)
+/// The error of a call that opens a file descriptor; closes the descriptor.
+int errorOfOpen(int descriptor)
 {
     const int error = errorOf(descriptor);
     if (descriptor >= 0)
@@ -65,16 +65,16 @@ int errorOfOpening(int descriptor)
 
 int errorOfSocket(long family)
 {
-    return errorOfOpening(static_cast<int>(::syscall(SYS_socket, family, SOCK_DGRAM, 0)));
+    return errorOfOpen(static_cast<int>(::syscall(SYS_socket, family, SOCK_DGRAM, 0)));
 }
 
-/// Runs `act`, which returns an error's number, in a process of its own.
-template<typename Act>
-int inChild(Act act)
+/// Runs a function in a child process; returns the function's result.
+template<typename Function>
+int runInChild(Function function)
 {
     const pid_t child = ::_Fork();
     if (child == 0)
-        ::_exit(act());
+        ::_exit(function());
     int status = 0;
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
@@ -98,32 +98,32 @@ int readMemory()
     return errorOf(::process_vm_readv(::getpid(), &target, 1, &source, 1, 0));
 }
 
-int startRings()
+int setUpIoUring()
 {
     io_uring_params parameters{};
-    return errorOfOpening(static_cast<int>(::syscall(SYS_io_uring_setup, 1, &parameters)));
+    return errorOfOpen(static_cast<int>(::syscall(SYS_io_uring_setup, 1, &parameters)));
 }
 
 struct Attempt
 {
     const char* name;
-    int (*act)();
+    int (*run)();
 };
 
-// Each leaves things as it found them, for the next thread.
+// Each attempt restores the files for the next thread.
 constexpr std::array attempts{
     Attempt{"create",
             [] {
                 const int error
-                    = errorOfOpening(::open(paths().fresh.c_str(), O_WRONLY | O_CREAT, 0600));
+                    = errorOfOpen(::open(paths().fresh.c_str(), O_WRONLY | O_CREAT, 0600));
                 ::unlink(paths().fresh.c_str());
                 return error;
             }},
-    Attempt{"write", [] { return errorOfOpening(::open(paths().file.c_str(), O_WRONLY)); }},
+    Attempt{"write", [] { return errorOfOpen(::open(paths().file.c_str(), O_WRONLY)); }},
     Attempt{"append",
-            [] { return errorOfOpening(::open(paths().file.c_str(), O_WRONLY | O_APPEND)); }},
-    Attempt{"mark",
-            [] { return errorOf(::setxattr(paths().file.c_str(), "user.mark", "1", 1, 0)); }},
+            [] { return errorOfOpen(::open(paths().file.c_str(), O_WRONLY | O_APPEND)); }},
+    Attempt{"set-xattr",
+            [] { return errorOf(::setxattr(paths().file.c_str(), "user.probe", "1", 1, 0)); }},
     Attempt{"rename",
             [] {
                 const int error = errorOf(::rename(paths().file.c_str(), paths().fresh.c_str()));
@@ -160,78 +160,79 @@ constexpr std::array attempts{
                 ::unlink(paths().fresh.c_str());
                 return error;
             }},
-    Attempt{"exec", [] { return inChild(startProgram); }},
+    Attempt{"exec", [] { return runInChild(startProgram); }},
     Attempt{"ptrace",
-            [] { return inChild([] { return errorOf(::ptrace(PTRACE_TRACEME, 0, 0, 0)); }); }},
+            [] { return runInChild([] { return errorOf(::ptrace(PTRACE_TRACEME, 0, 0, 0)); }); }},
     Attempt{"read-memory", readMemory},
-    Attempt{"rings", startRings},
+    Attempt{"io-uring", setUpIoUring},
     Attempt{"internet", [] { return errorOfSocket(AF_INET); }},
     Attempt{"internet-6", [] { return errorOfSocket(AF_INET6); }},
-    // The kernel reads no more than 32 bits of it.
-    Attempt{"internet-disguised", [] { return errorOfSocket(AF_INET | (1L << 32)); }},
+    // The kernel ignores the upper 32 bits of the address family, a filter compares 64 bits.
+    Attempt{"internet-64-bit", [] { return errorOfSocket(AF_INET | (1L << 32)); }},
     Attempt{"unix", [] { return errorOfSocket(AF_UNIX); }},
-    Attempt{"netlink", [] { return errorOfOpening(::socket(AF_NETLINK, SOCK_RAW, 0)); }},
-    Attempt{"read", [] { return errorOfOpening(::open(paths().file.c_str(), O_RDONLY)); }},
-    Attempt{"null", [] { return errorOfOpening(::open("/dev/null", O_WRONLY)); }},
-    Attempt{"memory-file", [] { return errorOfOpening(::memfd_create("sandbox-probe", 0)); }},
+    Attempt{"netlink", [] { return errorOfOpen(::socket(AF_NETLINK, SOCK_RAW, 0)); }},
+    Attempt{"read", [] { return errorOfOpen(::open(paths().file.c_str(), O_RDONLY)); }},
+    Attempt{"null", [] { return errorOfOpen(::open("/dev/null", O_WRONLY)); }},
+    Attempt{"memory-file", [] { return errorOfOpen(::memfd_create("sandbox-probe", 0)); }},
 };
 
 std::array<int, attempts.size()> errors;
-sem_t done;
+sem_t finished;
 
-void attemptAll()
+void runAttempts()
 {
-    std::ranges::transform(attempts, errors.begin(), [](const Attempt& a) { return a.act(); });
+    std::ranges::transform(attempts, errors.begin(), [](const Attempt& a) { return a.run(); });
 }
 
-void attemptAllHere(int /*signal*/)
+void runAttemptsOnSignal(int /*signal*/)
 {
-    const int before = errno;
-    attemptAll();
-    ::sem_post(&done);
-    errno = before;
+    const int previousError = errno;
+    runAttempts();
+    ::sem_post(&finished);
+    errno = previousError;
 }
 
-void tell(const std::string& thread)
+void report(const std::string& thread)
 {
     for (std::size_t i = 0; i < attempts.size(); ++i)
         std::cerr << "probe " << thread << ' ' << attempts.at(i).name << ' ' << errors.at(i)
                   << '\n';
 }
 
-void intrude()
+void runAttemptsInEveryThread()
 {
+    // The signal handler finds the paths complete.
     paths();
-    attemptAll();
-    tell("main");
+    runAttempts();
+    report("main");
 
-    ::sem_init(&done, 0, 0);
+    ::sem_init(&finished, 0, 0);
     struct sigaction action{};
-    action.sa_handler = attemptAllHere; // NOLINT(cppcoreguidelines-pro-type-union-access)
+    action.sa_handler = runAttemptsOnSignal; // NOLINT(cppcoreguidelines-pro-type-union-access)
     action.sa_flags = SA_RESTART;
     ::sigaction(SIGUSR2, &action, nullptr);
     for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
         const std::string thread = task.path().filename();
-        const pid_t number = std::stoi(thread);
-        if (number == ::getpid() || ::syscall(SYS_tgkill, ::getpid(), number, SIGUSR2) != 0)
+        const pid_t threadId = std::stoi(thread);
+        if (threadId == ::getpid() || ::syscall(SYS_tgkill, ::getpid(), threadId, SIGUSR2) != 0)
             continue;
-        while (::sem_wait(&done) != 0) {
+        while (::sem_wait(&finished) != 0) {
         }
-        tell(thread);
+        report(thread);
     }
     std::cerr << "probe done\n";
 }
 
-std::atomic_flag hasIntruded;
+std::atomic_flag hasRun;
 
 } // namespace
 
 extern "C" ssize_t getrandom(void* buffer, std::size_t size, unsigned int flags)
 {
-    if (size == 8 && !hasIntruded.test_and_set())
-        intrude();
+    if (size == 8 && !hasRun.test_and_set())
+        runAttemptsInEveryThread();
     using Function = ssize_t (*)(void*, std::size_t, unsigned int);
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what dlsym yields has no type
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dlsym returns void*
     static const auto next = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, "getrandom"));
     return next(buffer, size, flags);
 }

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""A desktop of its own for the program under test: X server, window manager, buses, empty home."""
+"""An X11 desktop for the program under test: X server, window manager, buses, empty home folder."""
 
 import ctypes
 import os
@@ -14,31 +14,31 @@ import time
 from servers import Servers
 
 DEADLINE = 20.0
-"""Seconds after which an awaited event counts as missing. Passing tests never wait this long."""
+"""Seconds after which `wait_for` fails. Passing tests never wait this long."""
 
 RATINGS = ("Schwach", "Mittel", "Gut", "Stark")
 
 KEY_CODES = {"F10": "76"}
-"""Keys whose names xdotool does not find alone: with xkb-data 2.48 it adds Alt to this one."""
+"""Key codes for keys that xdotool cannot press by name: with xkb-data 2.48, it adds Alt to F10."""
 
 PROGRAM = os.environ["MORVANE_PROGRAM"]
 ARTIFACTS = pathlib.Path(os.environ["MORVANE_ARTIFACTS"])
 
 
-def until(condition, what, deadline=DEADLINE):
-    """Returns the first true result of `condition`, or fails after the deadline naming `what`."""
+def wait_for(condition, description, deadline=DEADLINE):
+    """Returns the first true result of `condition`; fails after the deadline."""
     end = time.monotonic() + deadline
     while True:
         result = condition()
         if result:
             return result
         if time.monotonic() > end:
-            raise AssertionError(f"nothing came of this within {deadline:.0f} s: {what}")
+            raise AssertionError(f"no result after {deadline:.0f} s of waiting for {description}")
         time.sleep(0.02)
 
 
 class Desktop:
-    """Starts everything on creation; `close` ends exactly what was started."""
+    """Starts all processes of the desktop on creation; `close` ends these processes only."""
 
     def __init__(self):
         self._servers = Servers()
@@ -47,13 +47,13 @@ class Desktop:
         self.home.mkdir()
         runtime = self._folder / "runtime"
         runtime.mkdir(mode=0o700)
-        # AT-SPI in this very process has to find the same buses, hence the real environment.
+        # AT-SPI in the test's process must find the same buses, so its own environment changes.
         for name in ("WAYLAND_DISPLAY", "DISPLAY", "AT_SPI_BUS_ADDRESS", "QT_QPA_PLATFORM"):
             os.environ.pop(name, None)
         os.environ.update(
             HOME=str(self.home),
             XDG_RUNTIME_DIR=str(runtime),
-            XDG_CACHE_HOME=str(self._folder / "cache-of-the-tools"),
+            XDG_CACHE_HOME=str(self._folder / "test-tools-cache"),
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             LC_ALL="C.UTF-8",
         )
@@ -65,16 +65,19 @@ class Desktop:
             raise
 
     def _start_display(self):
-        # Another server that ends at this moment can take a display's name along with it.
+        # A server that ends removes its socket even if a new server already uses the same number.
         for _ in range(5):
             os.environ["DISPLAY"] = self._servers.start_x_server("2600x1800")
             manager = self._servers.start(["openbox"])
-            if until(lambda: self._window_manager_runs() or manager.poll(), "a window manager") is True:
+            started = wait_for(
+                lambda: self._has_window_manager() or manager.poll(), "a window manager"
+            )
+            if started is True:
                 return
-        raise AssertionError("no display stays")
+        raise AssertionError("no X server accepted a window manager in 5 attempts")
 
     @staticmethod
-    def _window_manager_runs():
+    def _has_window_manager():
         answer = output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
         return "window id" in answer
 
@@ -92,7 +95,7 @@ class Desktop:
 class Program:
     """The program under test. Use it in a `with` block, which ends it.
 
-    `under` is a command that turns into the program named after it.
+    `wrapper` is a command that takes the program as its arguments and runs it in its own process.
     """
 
     def __init__(
@@ -102,21 +105,21 @@ class Program:
         with_display=True,
         variables=None,
         program=PROGRAM,
-        under=(),
+        wrapper=(),
     ):
         self.desktop = desktop
         environment = {**os.environ, **(variables or {})}
         environment.pop("XDG_CACHE_HOME", None)
         if preload:
             environment["LD_PRELOAD"] = preload
-            # In the sanitizer build, another library in front of the sanitizer's is intended.
+            # AddressSanitizer rejects libraries that are loaded before its own unless this is set.
             environment["ASAN_OPTIONS"] = ":".join(
                 [os.environ.get("ASAN_OPTIONS", ""), "verify_asan_link_order=0"]
             )
         if not with_display:
             environment.pop("DISPLAY")
         self.process = subprocess.Popen(
-            [*under, program],
+            [*wrapper, program],
             env=environment,
             stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE,
@@ -132,14 +135,14 @@ class Program:
             self.process.terminate()
         self.process.communicate()
 
-    def ended(self):
-        """Waits for the end; returns the exit status and what was written to standard error."""
+    def wait_for_exit(self):
+        """Returns the exit status and the text on standard error."""
         _, errors = self.process.communicate(timeout=DEADLINE)
         return self.process.returncode, errors
 
     def window(self):
-        """The X window, once it is on the screen."""
-        found = until(
+        """The id of the program's X window; waits until the window is visible."""
+        found = wait_for(
             lambda: output(
                 "xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)
             ).split(),
@@ -148,7 +151,7 @@ class Program:
         return found[-1]
 
     def accessible(self):
-        """The root of the program's accessible objects."""
+        """The root of the program's accessibility tree."""
         import pyatspi
         from gi.repository import Atspi
 
@@ -156,63 +159,63 @@ class Program:
             desktop = pyatspi.Registry.getDesktop(0)
             for child in desktop:
                 if child is not None and child.get_process_id() == self.process.pid:
-                    # Not everything that changes is told, so nothing may be remembered.
+                    # Qt does not report every change, so cached properties can be out of date.
                     child.set_cache_mask(Atspi.Cache.NONE)
                     return child
             return None
 
-        return until(application, "the program on the accessibility bus")
+        return wait_for(application, "the program on the accessibility bus")
 
     def value(self):
-        """The secret on show: the label in front of its rating."""
-        labels = [a.name for a in everything(self.accessible()) if role_name(a) == "label"]
+        """The shown secret: the label before the rating."""
+        labels = [a.name for a in showing_objects(self.accessible()) if role_name(a) == "label"]
         ratings = [i for i, name in enumerate(labels) if name in RATINGS]
         return labels[ratings[-1] - 1] if ratings else None
 
     def history(self):
         """The secrets in the history box, newest first."""
-        names = [a.name for a in everything(self.accessible())]
+        names = [a.name for a in showing_objects(self.accessible())]
         return names[names.index("Diese Sitzung") + 1 : names.index("Menü")]
 
     def activate(self):
-        """Returns once the window has the keyboard, which the window manager gives it."""
+        """Waits until the window has the keyboard focus, which the window manager gives it."""
         window = self.window()
-        until(lambda: output("xdotool", "getactivewindow").strip() == window, "an active window")
+        wait_for(lambda: output("xdotool", "getactivewindow").strip() == window, "an active window")
 
-    def place(self, accessible):
-        """The middle of an accessible object, as a point of the screen."""
+    def centre_of(self, accessible):
+        """The centre of an accessible object in screen coordinates."""
         import pyatspi
 
         box = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         return box.x + box.width // 2, box.y + box.height // 2
 
-    def middle(self, name, role=None):
-        """The place of the control of this name once it has come to rest."""
+    def stable_centre(self, name, role=None):
+        """The centre of the control of this name, once the control has stopped moving."""
         control = self.find(
             lambda a: a.name == name
             and (role_name(a) == role if role else role_name(a) != "label"),
             f"the control {name}",
         )
-        places = []
+        centres = []
 
-        def at_rest():
-            places.append(self.place(control))
-            return len(places) > 2 and places[-1] == places[-2] == places[-3]
+        def is_stable():
+            centres.append(self.centre_of(control))
+            return len(centres) > 2 and centres[-1] == centres[-2] == centres[-3]
 
-        until(at_rest, f"the control {name} at rest")
-        return places[-1]
+        wait_for(is_stable, f"the control {name} to stop moving")
+        return centres[-1]
 
     def click(self, name, role=None):
-        """Clicks the control of this name with the real pointer."""
-        point(*self.middle(name, role))
+        """Clicks the control of this name with the X server's pointer."""
+        move_pointer(*self.stable_centre(name, role))
         subprocess.run(["xdotool", "click", "1"], check=True)
 
     def key(self, *chords):
-        """Presses keys on the real keyboard, one after the other."""
+        """Presses keys on the X server's keyboard, one after the other."""
         key(*chords)
 
     def press(self, name):
-        """Presses the button, or throws the switch, of this name through its accessible action."""
+        """Presses the button or toggles the switch of this name through its accessible action."""
         control = self.find(
             lambda a: a.name == name and "Action" in a.get_interfaces(), f"the control {name}"
         )
@@ -220,76 +223,78 @@ class Program:
         names = [actions.getName(i) for i in range(actions.nActions)]
         actions.doAction(names.index("Toggle" if "Toggle" in names else "Press"))
 
-    def slide(self, name, value):
-        """Sets the slider of this name."""
+    def set_slider(self, name, value):
+        """Sets the value of the slider of this name."""
         slider = self.find(
             lambda a: a.name == name and "Value" in a.get_interfaces(), f"the slider {name}"
         )
         slider.queryValue().currentValue = value
 
-    def picture(self, file):
-        """Writes a picture of the window once it has come to rest."""
+    def save_screenshot(self, file):
+        """Writes an image of the window once three images in a row are the same."""
         window = self.window()
         file.parent.mkdir(parents=True, exist_ok=True)
-        seen = []
+        checksums = []
 
-        def at_rest():
-            subprocess.run(["import", "-silent", "-window", window, "-strip", str(file)], check=True)
-            seen.append(output("identify", "-format", "%#", str(file)))
-            return len(seen) > 2 and seen[-1] == seen[-2] == seen[-3]
+        def is_stable():
+            subprocess.run(
+                ["import", "-silent", "-window", window, "-strip", str(file)], check=True
+            )
+            checksums.append(output("identify", "-format", "%#", str(file)))
+            return len(checksums) > 2 and checksums[-1] == checksums[-2] == checksums[-3]
 
-        until(at_rest, "a window that has come to rest")
+        wait_for(is_stable, "a window that does not change any more")
 
-    def find(self, predicate, what):
-        """The first showing accessible object for which `predicate` holds."""
+    def find(self, predicate, description):
+        """Waits for an accessible object that is showing and matches the predicate; returns it."""
         root = self.accessible()
-        return until(lambda: first(root, predicate), what)
+        return wait_for(lambda: find_first(root, predicate), description)
 
 
 def output(*command):
-    """Standard output of `command`, or what it wrote before it failed."""
+    """The standard output of a command, even if the command fails."""
     return subprocess.run(
         command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False
     ).stdout
 
 
 def key(*keys):
-    """Presses keys on the real keyboard, one after the other."""
+    """Presses keys on the X server's keyboard, one after the other."""
     codes = (KEY_CODES.get(name, name) for name in keys)
     subprocess.run(["xdotool", "key", *codes], check=True)
 
 
-def point(x, y):
-    """Moves the real pointer there."""
+def move_pointer(x, y):
+    """Moves the X server's pointer to this point of the screen."""
     subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
 
 
 def qt_version():
-    """The version of Qt that the program runs with, as numbers."""
+    """The version of the installed Qt, as a tuple of numbers."""
     library = ctypes.CDLL("libQt6Core.so.6")
     library.qVersion.restype = ctypes.c_char_p
     return tuple(map(int, library.qVersion().decode().split(".")))
 
 
 def role_name(accessible):
-    """The name of its role, which is the same in all versions of AT-SPI."""
+    """The name of the object's role, the same in all versions of AT-SPI."""
     import pyatspi
 
-    # AT-SPI 2.46 names this role "push button", 2.56 "button"; the number is the same.
+    # AT-SPI 2.46 calls this role "push button" and 2.56 calls it "button".
     if accessible.getRole() == pyatspi.ROLE_PUSH_BUTTON:
         return "button"
     return accessible.getRoleName()
 
 
-def everything(accessible):
-    """All showing accessible objects below `accessible`, in reading order."""
+def showing_objects(accessible):
+    """`accessible` and its descendants that are showing, in reading order."""
     found = []
-    first(accessible, found.append)  # which never yields true
+    find_first(accessible, found.append)  # append returns None, so the search visits all objects
     return found
 
 
-def first(accessible, predicate):
-    """Depth-first search below `accessible` for a showing object."""
+def find_first(accessible, predicate):
+    """The first object in depth-first order that is showing and matches the predicate, or None."""
     import pyatspi
     from gi.repository import GLib
 
@@ -297,11 +302,11 @@ def first(accessible, predicate):
         if accessible.getState().contains(pyatspi.STATE_SHOWING) and predicate(accessible):
             return accessible
         children = list(accessible)
-    except (GLib.Error, ValueError):  # gone while it was looked at
+    except (GLib.Error, ValueError):  # removed during the search
         return None
     for child in children:
         if child is not None:
-            found = first(child, predicate)
+            found = find_first(child, predicate)
             if found is not None:
                 return found
     return None

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Pictures of the window in all its states, light and dark, at two scales of the display.
+"""Takes screenshots of the windows in every state, in both colour schemes, at scales 1 and 2.
 
     screenshots.py FOLDER
 """
@@ -20,7 +20,7 @@ def show_password(program):
 
 
 def show_long_password(program):
-    program.slide("Länge", 64)
+    program.set_slider("Länge", 64)
 
 
 def show_history(program):
@@ -40,7 +40,7 @@ def show_passphrase(program):
 
 def show_long_passphrase(program):
     show_passphrase(program)
-    program.slide("Wörter", 8)
+    program.set_slider("Wörter", 8)
 
 
 def show_alert(program):
@@ -86,7 +86,7 @@ def main(folder):
                             desktop, variables={"QT_SCALE_FACTOR": str(scale)}
                         ) as program:
                             show(program)
-                            program.picture(folder / f"{state}-{scheme}-{scale}x.png")
+                            program.save_screenshot(folder / f"{state}-{scheme}-{scale}x.png")
     finally:
         desktop.close()
 

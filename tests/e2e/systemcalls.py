@@ -1,20 +1,20 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""What a program asked the kernel for: traced, read back, and held against what was promised."""
+"""Traces the system calls of a program with strace, and finds those that break its promises."""
 
 import pathlib
 import re
 import typing
 
-# Whatever names a file, makes a process or a connection, or could do either past the tracer. The
-# trace keeps no data (-s 0) and says what descriptors stand for (-y).
+# The system calls that name a file or create a process or a connection, and those that do so unseen
+# by strace. The trace contains no data (-s 0) and the paths of file descriptors (-y).
 TRACE = (
     "%file,socket,socketpair,bind,connect,listen,accept,accept4,sendto,sendmsg,sendmmsg,"
     "clone,clone3,fork,vfork,execve,execveat,io_uring_setup,open_by_handle_at"
 )
 
-READING = {
+READ_ONLY_CALLS = {
     "access",
     "faccessat",
     "faccessat2",
@@ -33,23 +33,23 @@ READING = {
     "statx",
 }
 
-OPENING = {"open", "openat", "openat2", "creat"}
+OPEN_CALLS = {"open", "openat", "openat2", "creat"}
 
-WRITING = re.compile(r"\bO_(WRONLY|RDWR|CREAT|TRUNC|APPEND|TMPFILE)\b")
+WRITE_FLAGS = re.compile(r"\bO_(WRONLY|RDWR|CREAT|TRUNC|APPEND|TMPFILE)\b")
 
 DEVICES = re.compile(r"/dev/(null|dri/[^/]+|shm/[^/]+)")
-"""Devices, and memory under the name of a file."""
+"""Devices and POSIX shared memory."""
 
 FAMILIES = {"AF_UNIX", "AF_NETLINK"}
 
 RESUMED = re.compile(r"<\.\.\. (?P<name>\w+) resumed>(?P<rest>.*)")
 UNFINISHED = re.compile(r"(?P<begin>.*?) ?<unfinished \.\.\.>")
 CALL = re.compile(r"(?P<name>\w+)\((?P<arguments>.*)\) += (?P<result>.+)")
-NOTE = re.compile(r"(\+\+\+|---) .* (\+\+\+|---)")
+EVENT = re.compile(r"(\+\+\+|---) .* (\+\+\+|---)")
 
 FOLDER = r"(?:(?:AT_FDCWD|\d+)<(?P<folder>[^>]*)>, )?"
 PATH = re.compile(FOLDER + r'"(?P<path>(?:[^"\\]|\\.)*)"')
-OPENED = re.compile(r"\d+<(?P<path>[^>]*)>")
+RESULT_PATH = re.compile(r"\d+<(?P<path>[^>]*)>")
 ADDRESS = re.compile(r'sa_family=(?P<family>\w+)(?:, sun_path=(?P<path>@?"(?:[^"\\]|\\.)*"))?')
 
 
@@ -64,65 +64,66 @@ class Call(typing.NamedTuple):
         return f"{self.name}({self.arguments}) = {self.result}"
 
 
-def tracing(log):
-    """The command that turns into the program named after it, and has it traced into `log`."""
-    # The tracer is the program's grandchild, and ends after it.
+def trace_command(log):
+    """The command that runs a program, its last argument, and writes the trace to `log`."""
+    # With -D, the process is the program's own, and strace is its grandchild, which ends later.
     return ["strace", "-D", "-f", "-y", "-s", "0", "-e", f"trace={TRACE}", "-o", str(log)]
 
 
-def read(log):
-    """The calls in the lines of a trace."""
-    calls, begun = [], {}
+def parse_trace(log):
+    """Parses the lines of a trace into calls."""
+    calls, unfinished_calls = [], {}
     for line in log:
         thread, _, rest = line.rstrip("\n").partition(" ")
         rest = rest.lstrip()
-        if NOTE.fullmatch(rest):
+        if EVENT.fullmatch(rest):
             continue
         if resumed := RESUMED.fullmatch(rest):
-            rest = begun.pop((thread, resumed["name"]), "") + resumed["rest"]
+            rest = unfinished_calls.pop((thread, resumed["name"]), "") + resumed["rest"]
         if unfinished := UNFINISHED.fullmatch(rest):
             begin = unfinished["begin"]
-            begun[thread, begin.partition("(")[0]] = begin
+            unfinished_calls[thread, begin.partition("(")[0]] = begin
             continue
         call = CALL.fullmatch(rest)
         if not call:
-            raise AssertionError(f"not understood: {line}")
+            raise AssertionError(f"unknown line in the trace: {line}")
         calls.append(Call(**call.groupdict()))
-    # The process ended in the middle of these, and nobody knows how far they had come.
-    for begin in begun.values():
+    # The process ended during these calls, so their results are unknown.
+    for begin in unfinished_calls.values():
         name, _, arguments = begin.partition("(")
         calls.append(Call(name, arguments, "?"))
     return calls
 
 
-def read_files(calls):
-    """The paths of all files that were opened."""
-    results = [OPENED.match(call.result) for call in calls if call.name in OPENING]
+def opened_files(calls):
+    """The paths of all files that the calls opened."""
+    results = [RESULT_PATH.match(call.result) for call in calls if call.name in OPEN_CALLS]
     return {opened["path"] for opened in results if opened}
 
 
-def offences(calls, program, peers):
-    """Those of `calls` with which more than reading is attempted, or anybody but `peers` spoken to.
+def find_violations(calls, program, peers):
+    """The calls that change files, start processes or use sockets other than `peers`.
 
-    `peers` are the paths of sockets; of those without a file, with an @ in front.
+    `peers` are the paths of sockets; those of abstract sockets begin with an @. The first start of
+    the program itself is allowed.
     """
-    started = Call("execve", f'"{program}"', "0")
-    found = []
+    is_started = False
+    violations = []
     for call in calls:
-        if call.name == "execve" and started and call.arguments.startswith(started.arguments):
-            started = None  # once
-        elif not allowed(call, peers):
-            found.append(call)
-    return found
+        if not is_started and call.name == "execve" and call.arguments.startswith(f'"{program}"'):
+            is_started = True
+        elif not is_allowed(call, peers):
+            violations.append(call)
+    return violations
 
 
-def allowed(call, peers):
-    """Whether a call keeps the promise. One that nobody has thought of does not."""
+def is_allowed(call, peers):
+    """Whether a call is harmless. System calls that are not listed here are not allowed."""
     name, arguments = call.name, call.arguments
-    if name in READING:
+    if name in READ_ONLY_CALLS:
         return True
-    if name in OPENING:
-        return reads_only(call) or is_device(call)
+    if name in OPEN_CALLS:
+        return opens_read_only(call) or opens_device(call)
     if name == "mkdir":
         return call.result.startswith("-1 EEXIST")
     if name in ("socket", "socketpair"):
@@ -145,18 +146,18 @@ def is_peer(address, peers):
     return address["family"] == "AF_NETLINK"
 
 
-def reads_only(call):
-    # A name can look like a flag.
+def opens_read_only(call):
+    # A file name can contain the name of a flag.
     flags = PATH.sub("", call.arguments)
-    return call.name != "creat" and "O_RDONLY" in flags and not WRITING.search(flags)
+    return call.name != "creat" and "O_RDONLY" in flags and not WRITE_FLAGS.search(flags)
 
 
-def is_device(call):
-    """Whether a file is a device, by the name that was asked for and by what became of it."""
-    asked = PATH.match(call.arguments)
-    if not asked:
+def opens_device(call):
+    """Whether both the requested path and the path of the opened file are those of a device."""
+    requested = PATH.match(call.arguments)
+    if not requested:
         return False
-    paths = [pathlib.PurePosixPath(asked["folder"] or "/", asked["path"])]
-    if opened := OPENED.match(call.result):
+    paths = [pathlib.PurePosixPath(requested["folder"] or "/", requested["path"])]
+    if opened := RESULT_PATH.match(call.result):
         paths.append(pathlib.PurePosixPath(opened["path"]))
     return all(".." not in path.parts and DEVICES.fullmatch(str(path)) for path in paths)

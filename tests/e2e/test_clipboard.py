@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The real clipboard, with the real waits: 30 seconds until it is emptied, 1.4 of confirmation.
+"""The system clipboard in real time: a copy is cleared after 30 s and confirmed for 1.4 s.
 
-The long waits run side by side, each on a desktop of its own.
+The scenarios that take 30 s run in parallel, each on its own desktop.
 """
 
 import concurrent.futures
@@ -16,24 +16,24 @@ import time
 import unittest
 from unittest import mock
 
-from desktop import DEADLINE, Desktop, Program, first, key, output, role_name, until
+from desktop import DEADLINE, Desktop, Program, find_first, key, output, role_name, wait_for
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
 
-STAYS = 30.0
+CLEAR_DELAY = 30.0
 """Seconds after which a copied value is cleared."""
 
-CONFIRMED = 1.4
-"""Seconds for which a copy is confirmed."""
+CONFIRMATION = 1.4
+"""Seconds for which the button confirms a copy."""
 
-GRACE = 3.0
-"""Seconds after which a clearing that has not come will not come any more."""
+TOLERANCE = 3.0
+"""Seconds that the clearing may be late on a busy machine."""
 
 SECRET = r"[A-Za-z0-9!@#$%&*+\-=?_~]{10}"
-MARKER = "x-kde-passwordManagerHint"
+SECRET_HINT = "x-kde-passwordManagerHint"
 
 
 class Session:
-    """A desktop of its own with the program on it, to be used from any thread."""
+    """The program on its own desktop; the methods can be called from any thread."""
 
     def __init__(self, desktop, program):
         self.desktop = desktop
@@ -41,7 +41,7 @@ class Session:
         self.program = program(desktop)
 
     def run(self, *command, text=None):
-        """Standard output of a command on this desktop."""
+        """The standard output of a command on this desktop."""
         return subprocess.run(
             ["timeout", "10", *command],
             env=self.environment,
@@ -53,8 +53,8 @@ class Session:
             check=False,
         ).stdout
 
-    def feed(self, text, *command):
-        """Has a command read `text` and stay on to offer it."""
+    def offer(self, text, *command):
+        """Runs a command that reads the text and offers it from the background."""
         subprocess.run(
             command,
             env=self.environment,
@@ -66,8 +66,10 @@ class Session:
         )
 
     def copy(self):
-        """Presses the keys that copy until the clipboard holds a secret; returns a time just before
-        the last press."""
+        """Presses the shortcut for copying until the clipboard holds a secret.
+
+        Returns the time just before the last press.
+        """
         end = time.monotonic() + DEADLINE
         while time.monotonic() < end:
             start = time.monotonic()
@@ -76,14 +78,14 @@ class Session:
                 if re.fullmatch(SECRET, self.text()):
                     return start
                 time.sleep(0.05)
-        raise AssertionError("nothing is copied")
+        raise AssertionError("no secret on the clipboard")
 
     def close(self):
-        """Ends the program, which must not have complained, and the desktop."""
+        """Ends the program, which must have written nothing to standard error, and the desktop."""
         try:
             if self.program.process.poll() is None:
                 self.program.process.terminate()
-            _, errors = self.program.ended()
+            _, errors = self.program.wait_for_exit()
             if errors:
                 raise AssertionError(errors)
         finally:
@@ -95,13 +97,13 @@ class X11Session(Session):
         super().__init__(Desktop(), Program)
 
     def start(self):
-        """Returns once the window has the keyboard."""
+        """Waits until the window has the keyboard focus."""
         pid = str(self.program.process.pid)
-        self.window = until(
+        self.window = wait_for(
             lambda: self.run("xdotool", "search", "--onlyvisible", "--pid", pid).split(),
             "a visible window",
         )[-1]
-        until(
+        wait_for(
             lambda: self.run("xdotool", "getactivewindow").strip() == self.window,
             "an active window",
         )
@@ -113,11 +115,11 @@ class X11Session(Session):
         return self.run("xclip", "-o", "-selection", "clipboard")
 
     def write(self, text):
-        self.feed(text, "xclip", "-i", "-selection", "clipboard")
+        self.offer(text, "xclip", "-i", "-selection", "clipboard")
 
     def formats(self):
         targets = self.run("xclip", "-o", "-selection", "clipboard", "-t", "TARGETS").split()
-        # What the selection itself can do, and the names that X11 has for plain text.
+        # Without the targets of the ICCCM's protocol and X11's own names for plain text.
         return {
             target
             for target in targets
@@ -125,12 +127,12 @@ class X11Session(Session):
             and target not in ("UTF8_STRING", "STRING", "TEXT", "COMPOUND_TEXT")
         }
 
-    def marker(self):
-        return self.run("xclip", "-o", "-selection", "clipboard", "-t", MARKER)
+    def secret_hint(self):
+        return self.run("xclip", "-o", "-selection", "clipboard", "-t", SECRET_HINT)
 
     @contextlib.contextmanager
-    def elsewhere(self):
-        """Gives the keyboard to another program's window."""
+    def other_window_active(self):
+        """Gives the keyboard focus to a window of another program."""
         other = subprocess.Popen(
             ["xev", "-event", "keyboard"],
             env=self.environment,
@@ -138,9 +140,9 @@ class X11Session(Session):
             stdout=subprocess.DEVNULL,
         )
         try:
-            until(
+            wait_for(
                 lambda: self.run("xdotool", "getactivewindow").strip() not in ("", self.window),
-                "another window in front",
+                "the other window to be active",
             )
             yield
         finally:
@@ -157,9 +159,10 @@ class WaylandSession(Session):
         self.run("swaymsg", "--quiet", "--", *words)
 
     def start(self):
-        """Returns once the window is on the screen; the copy itself waits for the keyboard."""
-        until(
-            lambda: f'"app_id": "{APPLICATION}"' in self.run("swaymsg", "-t", "get_tree"), "a window"
+        """Waits until the window exists; `copy` repeats until the window has the keyboard focus."""
+        wait_for(
+            lambda: f'"app_id": "{APPLICATION}"' in self.run("swaymsg", "-t", "get_tree"),
+            "a window",
         )
 
     def press_copy(self):
@@ -169,7 +172,7 @@ class WaylandSession(Session):
         return self.run("wl-paste", "--no-newline")
 
     def write(self, text):
-        self.feed(text, "wl-copy")
+        self.offer(text, "wl-copy")
 
     def formats(self):
         return {
@@ -178,12 +181,12 @@ class WaylandSession(Session):
             if name not in ("UTF8_STRING", "STRING", "TEXT", "COMPOUND_TEXT")
         }
 
-    def marker(self):
-        return self.run("wl-paste", "--no-newline", "--type", MARKER)
+    def secret_hint(self):
+        return self.run("wl-paste", "--no-newline", "--type", SECRET_HINT)
 
     @contextlib.contextmanager
-    def elsewhere(self):
-        """Takes the window out of sight."""
+    def other_window_active(self):
+        """Switches to an empty workspace, so that the window loses the keyboard focus."""
         self.command("workspace", "2")
         try:
             yield
@@ -191,87 +194,87 @@ class WaylandSession(Session):
             self.command("workspace", "1")
 
 
-def cleared(session):
-    """Waits for an empty clipboard; returns the time at which it was first seen."""
-    end = time.monotonic() + 2 * STAYS
-    seen = []
-    # While one text takes the place of another, there can be a moment without any.
-    while len(seen) < 3:
+def wait_until_cleared(session):
+    """Returns the time at which the clipboard was first seen empty."""
+    end = time.monotonic() + 2 * CLEAR_DELAY
+    seen_empty = []
+    # The clipboard can be empty for a moment while a new owner replaces the text.
+    while len(seen_empty) < 3:
         if time.monotonic() > end:
-            raise AssertionError("the clipboard is not emptied")
+            raise AssertionError("the clipboard is not cleared")
         time.sleep(0.1)
-        seen = [] if session.text() else [*seen, time.monotonic()]
-    return seen[0]
+        seen_empty = [] if session.text() else [*seen_empty, time.monotonic()]
+    return seen_empty[0]
 
 
-def assert_in_time(elapsed):
-    if not STAYS <= elapsed < STAYS + GRACE:
+def assert_cleared_in_time(elapsed):
+    if not CLEAR_DELAY <= elapsed < CLEAR_DELAY + TOLERANCE:
         raise AssertionError(f"cleared after {elapsed:.2f} s")
 
 
-def assert_stays(session, text):
-    time.sleep(STAYS + GRACE)
+def assert_text_stays(session, text):
+    time.sleep(CLEAR_DELAY + TOLERANCE)
     found = session.text()
     if found != text:
-        raise AssertionError(f"instead of {text!r} the clipboard holds {found!r}")
+        raise AssertionError(f"the clipboard holds {found!r} instead of {text!r}")
 
 
-def cleared_when_due(session):
+def copy_is_cleared_after_30_seconds(session):
     start = session.copy()
     plain_text = {"text/plain", "text/plain;charset=utf-8"}
     formats = session.formats()
-    if not {"text/plain"} <= formats - {MARKER} <= plain_text:
-        raise AssertionError(f"offered as {formats}")
-    if session.marker() != "secret":
-        raise AssertionError("not marked as a secret")
-    assert_in_time(cleared(session) - start)
+    if not {"text/plain"} <= formats - {SECRET_HINT} <= plain_text:
+        raise AssertionError(f"unexpected formats: {formats}")
+    if session.secret_hint() != "secret":
+        raise AssertionError("the secret has no hint for clipboard managers")
+    assert_cleared_in_time(wait_until_cleared(session) - start)
     if session.formats():
-        raise AssertionError(f"still offered as {session.formats()}")
+        raise AssertionError(f"formats after clearing: {session.formats()}")
 
 
-def other_text_stays(session):
+def text_of_another_program_stays(session):
     session.copy()
     session.write("etwas anderes")
-    assert_stays(session, "etwas anderes")
+    assert_text_stays(session, "etwas anderes")
 
 
 def same_text_of_another_program_stays(session):
     session.copy()
     secret = session.text()
     session.write(secret)
-    assert_stays(session, secret)
+    assert_text_stays(session, secret)
 
 
-def second_copy_has_its_own_time(session):
+def second_copy_restarts_the_30_seconds(session):
     start = session.copy()
-    time.sleep(max(0, start + STAYS - 1 - time.monotonic()))
+    time.sleep(max(0, start + CLEAR_DELAY - 1 - time.monotonic()))
     again = time.monotonic()
     session.press_copy()
-    assert_in_time(cleared(session) - again)
+    assert_cleared_in_time(wait_until_cleared(session) - again)
 
 
-def cleared_while_another_window_is_used(session):
+def copy_is_cleared_while_another_window_is_active(session):
     start = session.copy()
-    with session.elsewhere():
-        assert_in_time(cleared(session) - start)
-    until(lambda: not session.formats(), "nothing on offer once the window is back")
+    with session.other_window_active():
+        assert_cleared_in_time(wait_until_cleared(session) - start)
+    wait_for(lambda: not session.formats(), "an empty clipboard after the window is active again")
     if session.text():
-        raise AssertionError("back on the clipboard")
+        raise AssertionError("the secret is back on the clipboard")
 
 
 def text_copied_in_another_window_stays(session):
     session.copy()
-    with session.elsewhere():
+    with session.other_window_active():
         session.write("etwas anderes")
-        assert_stays(session, "etwas anderes")
+        assert_text_stays(session, "etwas anderes")
 
 
 SCENARIOS = (
-    cleared_when_due,
-    other_text_stays,
+    copy_is_cleared_after_30_seconds,
+    text_of_another_program_stays,
     same_text_of_another_program_stays,
-    second_copy_has_its_own_time,
-    cleared_while_another_window_is_used,
+    second_copy_restarts_the_30_seconds,
+    copy_is_cleared_while_another_window_is_active,
     text_copied_in_another_window_stays,
 )
 
@@ -318,43 +321,39 @@ class Copying(unittest.TestCase):
     def clipboard(self):
         return output("timeout", "10", "xclip", "-o", "-selection", "clipboard")
 
-    def button(self, program, name):
-        return first(
+    def find_button(self, program, name):
+        return find_first(
             program.accessible(), lambda a: a.name == name and role_name(a) == "button"
         )
 
-    def active(self, program):
-        window = program.window()
-        until(lambda: output("xdotool", "getactivewindow").strip() == window, "an active window")
-
-    def test_a_click_copies_and_is_confirmed_for_a_while(self):
+    def test_a_click_copies_and_is_confirmed_for_1_4_seconds(self):
         with Program(self.desktop) as program:
-            value = program.value()
+            secret = program.value()
             start = time.monotonic()
             program.click("Kopieren", "button")
-            until(lambda: self.button(program, "Kopiert"), "the confirmation")
-            self.assertEqual(self.clipboard(), value)
-            until(lambda: self.button(program, "Kopieren"), "the button as it was")
-            self.assertGreaterEqual(time.monotonic() - start, CONFIRMED)
+            wait_for(lambda: self.find_button(program, "Kopiert"), "the confirmation")
+            self.assertEqual(self.clipboard(), secret)
+            wait_for(lambda: self.find_button(program, "Kopieren"), "the button's normal label")
+            self.assertGreaterEqual(time.monotonic() - start, CONFIRMATION)
 
-    def test_a_second_copy_is_confirmed_no_longer_than_the_first(self):
+    def test_a_second_copy_does_not_prolong_the_confirmation_of_the_first(self):
         with Program(self.desktop) as program:
             program.find(lambda a: a.name == "Kopieren", "the window")
-            self.active(program)
+            program.activate()
 
-            def confirmed_no_longer():
+            def confirmation_ends_early():
                 key("ctrl+shift+c")
-                until(lambda: self.button(program, "Kopiert"), "the confirmation")
-                time.sleep(CONFIRMED / 2)
+                wait_for(lambda: self.find_button(program, "Kopiert"), "the confirmation")
+                time.sleep(CONFIRMATION / 2)
                 second = time.monotonic()
                 key("ctrl+shift+c")
-                until(lambda: self.button(program, "Kopieren"), "the button as it was")
-                return time.monotonic() - second < CONFIRMED
+                wait_for(lambda: self.find_button(program, "Kopieren"), "the button's normal label")
+                return time.monotonic() - second < CONFIRMATION
 
-            # A busy machine can see the end of a confirmation too late, but never too early.
-            until(confirmed_no_longer, "the end of a confirmation with that of the first copy")
+            # On a busy machine the test can notice the end of a confirmation late, but never early.
+            wait_for(confirmation_ends_early, "a confirmation that is not prolonged")
 
-    def test_a_value_that_there_is_not_is_not_copied(self):
+    def test_copying_without_a_secret_leaves_the_clipboard_alone(self):
         subprocess.run(
             ["xclip", "-i", "-selection", "clipboard"],
             input="vorher",
@@ -364,25 +363,28 @@ class Copying(unittest.TestCase):
         )
         with Program(self.desktop, preload=os.environ["MORVANE_FAILING_RANDOM"]) as program:
             program.find(lambda a: a.name == "Einstellung prüfen", "the alert")
-            self.active(program)
+            program.activate()
             key("Escape")
-            until(
-                lambda: not first(program.accessible(), lambda a: a.name == "Einstellung prüfen"),
+            wait_for(
+                lambda: not find_first(
+                    program.accessible(), lambda a: a.name == "Einstellung prüfen"
+                ),
                 "no alert",
             )
             key("ctrl+shift+c", "F10")
-            program.find(lambda a: a.name == "Morvane beenden", "what the later key does")
-            self.assertIsNone(self.button(program, "Kopiert"))
+            # The program has handled the first key when the second one has opened the menu.
+            program.find(lambda a: a.name == "Morvane beenden", "the menu")
+            self.assertIsNone(self.find_button(program, "Kopiert"))
             self.assertEqual(self.clipboard(), "vorher")
 
-    def test_quitting_takes_the_value_along(self):
+    def test_quitting_clears_the_clipboard(self):
         with Program(self.desktop) as program:
             program.find(lambda a: a.name == "Kopieren", "the window")
-            self.active(program)
+            program.activate()
             key("ctrl+shift+c")
-            until(lambda: re.fullmatch(SECRET, self.clipboard()), "a secret on the clipboard")
+            wait_for(lambda: re.fullmatch(SECRET, self.clipboard()), "a secret on the clipboard")
             key("ctrl+q")
-            self.assertEqual(program.ended(), (0, ""))
+            self.assertEqual(program.wait_for_exit(), (0, ""))
             self.assertEqual(self.clipboard(), "")
 
 

@@ -1,10 +1,9 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The real clipboard with managers that collect what is on it, in their real homes, and with a
-compositor that is one itself.
+"""The system clipboard together with clipboard managers and with a compositor that acts as one.
 
-Each has a desktop of its own, and they run side by side.
+The scenarios run in parallel, each on its own desktop.
 """
 
 import itertools
@@ -16,26 +15,27 @@ import sys
 import time
 import unittest
 
-from Xlib import X, display
+from Xlib import X
+from Xlib.display import Display
 
-from desktop import DEADLINE, Desktop, Program, output, until
+from desktop import DEADLINE, Desktop, Program, output, wait_for
 from test_clipboard import (
-    GRACE,
+    CLEAR_DELAY,
     SECRET,
-    STAYS,
+    TOLERANCE,
     ParallelScenarios,
     Session,
     WaylandSession,
     X11Session,
-    assert_in_time,
-    cleared,
+    assert_cleared_in_time,
+    wait_until_cleared,
 )
-from wayland import a_socket, overlook_leaks
+from wayland import disable_leak_detection, find_socket
 
-HANDOVER = 5.0
-"""Seconds for which Qt has a clipboard manager fetch the contents of a program that ends."""
+HANDOVER_TIMEOUT = 5.0
+"""Seconds that Qt waits, when a program ends, until a clipboard manager has read the contents."""
 
-HEED_MARKER = r"""[Commands]
+IGNORE_SECRETS = r"""[Commands]
 1\Automatic=true
 1\Command=copyq ignore
 1\Input=x-kde-passwordManagerHint
@@ -43,19 +43,18 @@ HEED_MARKER = r"""[Commands]
 1\Remove=true
 size=1
 """
-"""A command of CopyQ's user. CopyQ 6.4 needs it, CopyQ 10 heeds the marker by itself."""
-
+"""An automatic command of CopyQ. CopyQ 6.4 needs it, CopyQ 10 ignores secrets by itself."""
 
 NAMES = """
 import desktop, pyatspi
 for program in pyatspi.Registry.getDesktop(0):
-    print(*(accessible.name for accessible in desktop.everything(program)), sep="\\n")
+    print(*(accessible.name for accessible in desktop.showing_objects(program)), sep="\\n")
 """
-"""Prints what all programs show."""
+"""A program that prints the names of all visible accessible objects."""
 
 
 def version(package):
-    """The version of an installed Debian package, as numbers; an unknown one is the newest."""
+    """The version of a Debian package as numbers; higher than any other if not installed."""
     answer = output("dpkg-query", "--show", "--showformat", "${Version}", package)
     found = re.match(r"(?:\d+:)?(\d+(?:\.\d+)*)", answer)
     return tuple(map(int, found[1].split("."))) if found else (sys.maxsize,)
@@ -65,7 +64,7 @@ class ManagedSession(X11Session):
     """A desktop with the program and a clipboard manager."""
 
     command = ()
-    unmarked = None
+    ordinary_text = None
 
     def __init__(self):
         Session.__init__(self, Desktop(), Program)
@@ -80,46 +79,46 @@ class ManagedSession(X11Session):
         )
 
     def configure(self):
-        """What is to be in the home before the manager starts."""
+        """Writes the manager's configuration before the manager starts."""
 
     def start(self):
-        """Returns once the manager takes what is copied and the window has the keyboard."""
+        """Waits until the manager records copies and the window has the keyboard focus."""
 
         numbers = itertools.count()
 
-        def taken():
-            # What is there when the manager starts is nothing new to it, and stays so.
-            self.unmarked = f"ohne Kennzeichen {next(numbers)}"
-            self.write(self.unmarked)
+        def is_recorded():
+            # The manager never records the text that is on the clipboard when it starts.
+            self.ordinary_text = f"ohne Kennzeichen {next(numbers)}"
+            self.write(self.ordinary_text)
             time.sleep(0.5)
-            return self.keeps(self.unmarked)
+            return self.has_recorded(self.ordinary_text)
 
-        until(taken, "the manager's copy of an unmarked text")
+        wait_for(is_recorded, "an ordinary text in the manager's history")
         super().start()
 
-    def keeps(self, text):
-        """Whether the manager has `text` in its history."""
+    def has_recorded(self, text):
+        """Whether the manager's history contains the text."""
         raise NotImplementedError
 
-    def on_disk(self, text):
-        """The files that have `text` in them, in any encoding that is known of a manager."""
-        forms = [text.encode(encoding) for encoding in ("utf-8", "utf-16-le", "utf-16-be")]
+    def files_with(self, text):
+        """The files in the home folder that contain the text, in any encoding that managers use."""
+        encoded = [text.encode(encoding) for encoding in ("utf-8", "utf-16-le", "utf-16-be")]
         return [
             path
             for path in self.desktop.home.rglob("*")
-            if path.is_file() and any(form in path.read_bytes() for form in forms)
+            if path.is_file() and any(form in path.read_bytes() for form in encoded)
         ]
 
     def primary(self):
         return self.run("xclip", "-o", "-selection", "primary")
 
     def quit(self):
-        """Quits the program by its keys; returns the seconds that it takes to end."""
+        """Quits the program by its shortcut; returns how many seconds the program takes to end."""
         start = time.monotonic()
         self.run("xdotool", "key", "ctrl+q")
-        status, errors = self.program.ended()
+        status, errors = self.program.wait_for_exit()
         if status or errors:
-            raise AssertionError(f"ended with {status}: {errors}")
+            raise AssertionError(f"the program ended with status {status}: {errors}")
         return time.monotonic() - start
 
     def end_manager(self):
@@ -135,13 +134,13 @@ class ManagedSession(X11Session):
 
 
 class Clipman(ManagedSession):
-    """Takes every text whatever it is marked as, and never lets the clipboard be without one."""
+    """Records every text, also secrets, and restores the last text when the clipboard is empty."""
 
     command = ("xfce4-clipman",)
 
-    def keeps(self, text):
-        # Its history is this file, written at every change.
-        return bool(self.on_disk(text))
+    def has_recorded(self, text):
+        # Clipman writes its history to a file at every change.
+        return bool(self.files_with(text))
 
 
 class CopyQ(ManagedSession):
@@ -152,200 +151,202 @@ class CopyQ(ManagedSession):
             return
         folder = self.desktop.home / ".config" / "copyq"
         folder.mkdir(parents=True)
-        (folder / "copyq-commands.ini").write_text(HEED_MARKER, encoding="ascii")
+        (folder / "copyq-commands.ini").write_text(IGNORE_SECRETS, encoding="ascii")
 
-    def keeps(self, text):
+    def has_recorded(self, text):
         newest = map(str, range(10))
         return text in self.run("copyq", "read", *newest).splitlines()
 
     def end_manager(self):
-        self.run("copyq", "exit")  # which writes the history
+        self.run("copyq", "exit")  # writes the history
         self.manager.wait()
 
 
 class SettingsDaemon(ManagedSession):
-    """Fetches what is on the clipboard from a program that ends, and keeps it there."""
+    """Reads the clipboard's contents from a program that ends, and keeps offering them."""
 
     command = ("xfsettingsd", "--no-daemon", "--disable-wm-check")
 
     def start(self):
-        until(self.has_clipboard_manager, "a clipboard manager")
+        wait_for(self.has_clipboard_manager, "a clipboard manager")
         X11Session.start(self)
 
     def start_again(self):
-        """Starts another program in place of the one that has ended."""
+        """Starts the program again after it has ended."""
         self.program = Program(self.desktop, variables=self.environment)
         X11Session.start(self)
 
     def has_clipboard_manager(self):
-        screen = display.Display(self.environment["DISPLAY"])
+        display = Display(self.environment["DISPLAY"])
         try:
-            return screen.get_selection_owner(screen.get_atom("CLIPBOARD_MANAGER")) != X.NONE
+            return display.get_selection_owner(display.get_atom("CLIPBOARD_MANAGER")) != X.NONE
         finally:
-            screen.close()
+            display.close()
 
 
 class WestonDesktop(Desktop):
-    """Weston in a window of an X server, which has a keyboard for it."""
+    """Weston in a window of an X server, because xdotool can press keys there."""
 
     def _start_display(self):
         super()._start_display()
         runtime = self._folder / "runtime"
         self._servers.start(["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0"])
-        os.environ["WAYLAND_DISPLAY"] = until(
-            lambda: a_socket(runtime, "wayland-?"), "the compositor's socket"
+        os.environ["WAYLAND_DISPLAY"] = wait_for(
+            lambda: find_socket(runtime, "wayland-?"), "the compositor's socket"
         )
         os.environ["QT_QPA_PLATFORM"] = "wayland"
-        overlook_leaks()
+        disable_leak_detection()
 
 
 class Weston(WaylandSession):
-    """Puts back its copy of the last text whenever nothing is on offer."""
+    """Restores the last text whenever the clipboard is empty."""
 
     def __init__(self):
         Session.__init__(self, WestonDesktop(), Program)
         self.environment["PYTHONPATH"] = str(pathlib.Path(__file__).parent)
 
     def start(self):
-        """The copy itself waits for the keyboard."""
+        """Waits for nothing: `press_copy` waits for the keyboard focus."""
 
     def press_copy(self):
         self.activate()
         self.run("xdotool", "key", "ctrl+shift+c")
 
     def activate(self):
-        """Returns once a key has reached the window.
+        """Waits until a key press has reached the window.
 
-        Every look at the clipboard takes the keyboard away for about a second.
+        Whenever wl-paste reads the clipboard, the window loses the focus for about a second.
         """
-        shown = until(self.secrets, "a secret on show")
+        before = wait_for(self.secrets, "a visible secret")
 
-        def another():
+        def has_changed():
             self.run("xdotool", "key", "ctrl+r")
-            return self.secrets() not in ([], shown)
+            return self.secrets() not in ([], before)
 
-        until(another, "another secret on show")
+        wait_for(has_changed, "another visible secret")
 
-    def keeps(self, _text):
-        """Weston asks the program for what is copied before any look at the clipboard can, and the
-        program answers in this order."""
+    def has_recorded(self, _text):
+        """Always true: Weston requests a copied text before a test can, and the program answers
+        requests in order."""
         return True
 
     def secrets(self):
-        """The value and its history, as a process of its own sees them on the accessibility bus:
-        each process can look at one bus only."""
+        """The shown secret and the history.
+
+        A child process reads them, because AT-SPI connects a process to one accessibility bus only.
+        """
         names = self.run(sys.executable, "-B", "-W", "ignore", "-c", NAMES).splitlines()
         return [name for name in names if re.fullmatch(SECRET, name)]
 
 
-def text_without_owner_is_brought_back(session):
+def text_of_an_ended_program_is_restored(session):
     session.copy()
     secret = session.text()
-    until(lambda: session.keeps(secret), "the manager's copy of the secret")
+    wait_for(lambda: session.has_recorded(secret), "the secret in the manager's history")
     session.program.process.terminate()
     session.program.process.wait()
-    until(lambda: session.text() == secret, "the text of a program that is gone")
+    wait_for(lambda: session.text() == secret, "the text of the program that has ended")
 
 
-def assert_cleared_for_the_run(session):
-    """Copies a secret, which is not back before the program ends; returns it."""
+def copy_and_wait_until_cleared(session):
+    """Copies a secret and checks that the clipboard stays empty afterwards; returns the secret."""
     start = session.copy()
     secret = session.text()
     if session.primary():
-        raise AssertionError("selected as well")
-    assert_in_time(cleared(session) - start)
+        raise AssertionError("the secret is in the primary selection")
+    assert_cleared_in_time(wait_until_cleared(session) - start)
     assert_stays_empty(session)
     return secret
 
 
-def cleared_secret_is_not_brought_back(session):
-    assert_cleared_for_the_run(session)
+def cleared_secret_is_not_restored(session):
+    copy_and_wait_until_cleared(session)
     session.quit()
     assert_stays_empty(session)
 
 
-def cleared_secret_is_brought_back_at_the_end(session):
-    secret = assert_cleared_for_the_run(session)
+def cleared_secret_is_restored_when_the_program_ends(session):
+    secret = copy_and_wait_until_cleared(session)
     session.quit()
-    until(lambda: session.text() == secret, "the cleared secret, which this manager brings back")
+    wait_for(lambda: session.text() == secret, "the secret that this manager restores")
 
 
-def cleared_secret_is_not_brought_back_by_compositor(session):
+def compositor_does_not_restore_a_cleared_secret(session):
     session.copy()
     session.activate()
-    # No look at the clipboard meanwhile: the window is to have the keyboard.
-    time.sleep(STAYS + GRACE)
+    # Reading the clipboard would take the keyboard focus from the window, so the test only waits.
+    time.sleep(CLEAR_DELAY + TOLERANCE)
     assert_stays_empty(session)
     session.program.process.terminate()
     session.program.process.wait()
     assert_stays_empty(session)
 
 
-def secret_marked_as_one_is_not_kept(session):
+def manager_does_not_record_the_secret(session):
     start = session.copy()
     secret = session.text()
-    assert_in_time(cleared(session) - start)
+    assert_cleared_in_time(wait_until_cleared(session) - start)
     assert_stays_empty(session)
     session.write("danach")
-    until(lambda: session.keeps("danach"), "what was copied next")
-    if session.keeps(secret):
-        raise AssertionError("kept in the history")
+    wait_for(lambda: session.has_recorded("danach"), "the next copy in the manager's history")
+    if session.has_recorded(secret):
+        raise AssertionError("the manager has recorded the secret")
     session.end_manager()
-    if not session.on_disk(session.unmarked):
-        raise AssertionError("the history is not where it was looked for")
-    if session.on_disk(secret):
-        raise AssertionError(f"written to {session.on_disk(secret)}")
+    if not session.files_with(session.ordinary_text):
+        raise AssertionError("no file contains the manager's history")
+    if session.files_with(secret):
+        raise AssertionError(f"files with the secret: {session.files_with(secret)}")
 
 
-def quitting_waits_for_no_manager(session):
+def quitting_does_not_wait_for_the_manager(session):
     session.copy()
     elapsed = session.quit()
-    if elapsed >= HANDOVER / 2:
-        raise AssertionError(f"took {elapsed:.2f} s")
+    if elapsed >= HANDOVER_TIMEOUT / 2:
+        raise AssertionError(f"quitting took {elapsed:.2f} s")
 
 
-def secret_outlives_the_program(session):
-    def handed_over():
+def manager_takes_over_the_secret_when_the_program_ends(session):
+    def is_taken_over():
         session.copy()
         secret = session.text()
         session.quit()
-        end = time.monotonic() + HANDOVER
+        end = time.monotonic() + HANDOVER_TIMEOUT
         while time.monotonic() < end:
             if session.text() == secret:
                 return True
             time.sleep(0.1)
-        # The program waits 0.3 s for the manager, which is too short on a busy machine.
+        # The program waits 0.3 s for the manager, which can be too short on a busy machine.
         session.start_again()
         return False
 
-    until(handed_over, "the secret that was handed over", 2 * DEADLINE)
+    wait_for(is_taken_over, "the secret, offered by the manager", 2 * DEADLINE)
 
 
 def assert_stays_empty(session):
-    end = time.monotonic() + GRACE
+    end = time.monotonic() + TOLERANCE
     while time.monotonic() < end:
         if session.text():
-            raise AssertionError("back on the clipboard")
+            raise AssertionError("the secret is back on the clipboard")
         time.sleep(0.1)
 
 
 CLIPMAN_AFTER_CLEARING = (
-    # Clipman 1.6.2 leaves the clipboard empty, Clipman 1.6.6 puts the last text back.
-    cleared_secret_is_brought_back_at_the_end
+    # Clipman 1.6.2 leaves the clipboard empty, Clipman 1.6.6 restores the last text.
+    cleared_secret_is_restored_when_the_program_ends
     if version("xfce4-clipman") > (1, 6, 2)
-    else cleared_secret_is_not_brought_back
+    else cleared_secret_is_not_restored
 )
 
 
 class ClipboardManagers(ParallelScenarios, unittest.TestCase):
     cases = (
-        (Clipman, text_without_owner_is_brought_back),
+        (Clipman, text_of_an_ended_program_is_restored),
         (Clipman, CLIPMAN_AFTER_CLEARING),
-        (Clipman, quitting_waits_for_no_manager),
-        (SettingsDaemon, secret_outlives_the_program),
-        (CopyQ, secret_marked_as_one_is_not_kept),
-        (Weston, text_without_owner_is_brought_back),
-        (Weston, cleared_secret_is_not_brought_back_by_compositor),
+        (Clipman, quitting_does_not_wait_for_the_manager),
+        (SettingsDaemon, manager_takes_over_the_secret_when_the_program_ends),
+        (CopyQ, manager_does_not_record_the_secret),
+        (Weston, text_of_an_ended_program_is_restored),
+        (Weston, compositor_does_not_restore_a_cleared_secret),
     )
 
 

@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Every control of the main window, used with real pointer and keys."""
+"""Every control of the main window, used with pointer and keys."""
 
 import re
 import subprocess
 import unittest
 
-from desktop import Desktop, Program, everything, first, key, role_name, until
+from desktop import Desktop, Program, find_first, key, role_name, showing_objects, wait_for
 
 
 class Controls(unittest.TestCase):
@@ -22,17 +22,17 @@ class Controls(unittest.TestCase):
         self.program.window()
 
     def assert_one_new_secret(self, action, pattern=None):
-        """After `action` there is exactly one secret more than before."""
+        """The action generates exactly one secret; returns this secret."""
         before = self.program.history()
         action()
-        value = until(
+        secret = wait_for(
             lambda: self.program.history() != before and self.program.value(), "another secret"
         )
-        # A second one that followed at once would have moved the list once more.
-        self.assertEqual(self.program.history(), ([value] + before)[:4])
+        # A second secret would have moved the history by another row.
+        self.assertEqual(self.program.history(), ([secret] + before)[:4])
         if pattern:
-            self.assertRegex(value, pattern)
-        return value
+            self.assertRegex(secret, pattern)
+        return secret
 
     def test_every_switch_regenerates_once(self):
         for name, pattern in (
@@ -60,19 +60,21 @@ class Controls(unittest.TestCase):
         self.program.click("Trennzeichen")
         key("ctrl+a")
         self.assert_one_new_secret(lambda: key("plus"), r"^([A-Z][a-z]+\+){4}[A-Z][a-z]+$")
-        self.assert_one_new_secret(lambda: self.program.slide("Wörter", 8), r"^([A-Z][a-z]+\+){7}")
+        self.assert_one_new_secret(
+            lambda: self.program.set_slider("Wörter", 8), r"^([A-Z][a-z]+\+){7}"
+        )
         self.assert_one_new_secret(lambda: self.program.click("Passwort"), r"^\S{10}$")
-        # The other mode's settings have been kept.
+        # The passphrase settings are unchanged.
         self.assert_one_new_secret(lambda: self.program.click("Passphrase"), r"^([A-Z][a-z]+\+){7}")
 
-    def test_the_slider_is_moved_by_keys(self):
+    def test_keys_move_the_slider(self):
         self.program.click("Passwort")
         key("Tab")
         for keys, length in (("Right", 11), ("Left", 10), ("End", 64), ("Home", 8)):
             self.assert_one_new_secret(lambda: key(keys), rf"^\S{{{length}}}$")
 
-    def test_the_whole_window_is_used_without_a_pointer(self):
-        # From the picker over the slider to the first switch.
+    def test_tab_reaches_the_controls(self):
+        # The focus moves from the mode picker to the slider and to the first switch.
         key("Tab", "Tab", "Tab")
         self.assert_one_new_secret(lambda: key("space"), r"^[^a-z]{10}$")
         key("shift+Tab", "shift+Tab")
@@ -85,13 +87,13 @@ class Controls(unittest.TestCase):
         key("ctrl+shift+c")
         self.program.find(lambda a: a.name == "Kopiert", "the confirmation")
 
-    def test_shortcuts_work_inside_the_value(self):
+    def test_shortcuts_work_while_the_secret_is_selected(self):
         key("ctrl+a")
         self.assert_one_new_secret(lambda: key("ctrl+r"))
         key("ctrl+shift+c")
         self.program.find(lambda a: a.name == "Kopiert", "the confirmation")
 
-    def test_the_alert_is_provoked_and_dismissed(self):
+    def test_the_alert_opens_and_closes(self):
         for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen"):
             self.assert_one_new_secret(lambda: self.program.click(name))
         last = self.program.value()
@@ -101,15 +103,15 @@ class Controls(unittest.TestCase):
             lambda a: a.name == "Bitte mindestens eine Zeichengruppe aktivieren.", "the message"
         )
         key("Return")
-        until(
-            lambda: first(self.program.accessible(), lambda a: a.name == "Einstellung prüfen")
+        wait_for(
+            lambda: find_first(self.program.accessible(), lambda a: a.name == "Einstellung prüfen")
             is None,
-            "the end of the alert",
+            "a closed alert",
         )
         self.assertEqual(self.program.value(), last)
         self.assert_one_new_secret(lambda: self.program.click("Zahlen"), r"^[2-9]{10}$")
 
-    def test_the_third_history_row_is_taken_back(self):
+    def test_a_click_on_the_third_history_row_shows_its_secret(self):
         for _ in range(3):
             self.assert_one_new_secret(lambda: self.program.click("Neu erzeugen"))
         rows = self.program.history()
@@ -118,12 +120,12 @@ class Controls(unittest.TestCase):
         )
         self.assertEqual(row.description, "Holt diesen Wert zurück in die Anzeige.")
         self.program.click(rows[2])
-        until(lambda: self.program.value() == rows[2], "the third secret on show")
+        wait_for(lambda: self.program.value() == rows[2], "the third secret in the display")
         self.assertEqual(self.program.history(), rows)
 
-    def test_the_slider_is_dragged_to_its_end(self):
-        x, y = self.program.middle("Länge")
-        # The knob stands at 10, which is near the left end.
+    def test_dragging_moves_the_slider_to_its_end(self):
+        x, y = self.program.stable_centre("Länge")
+        # The handle for the length 10 is near the left end.
         left = x - 116 + 9
         subprocess.run(
             ["xdotool", "mousemove", "--sync", str(left), str(y), "mousedown", "1"], check=True
@@ -131,9 +133,9 @@ class Controls(unittest.TestCase):
         for step in range(left, left + 260, 4):
             subprocess.run(["xdotool", "mousemove", str(step), str(y)], check=True)
         subprocess.run(["xdotool", "mouseup", "1"], check=True)
-        until(lambda: re.fullmatch(r"\S{64}", self.program.value() or ""), "64 characters")
+        wait_for(lambda: re.fullmatch(r"\S{64}", self.program.value() or ""), "64 characters")
 
-    def test_the_value_and_its_rating_are_announced(self):
+    def test_the_secret_and_its_rating_are_announced(self):
         import pyatspi
         from gi.repository import GLib
 
@@ -146,26 +148,26 @@ class Controls(unittest.TestCase):
         pyatspi.Registry.registerEventListener(listener, kind)
         self.addCleanup(pyatspi.Registry.deregisterEventListener, listener, kind)
 
-        def heard(*patterns):
+        def has_announced(*patterns):
             while GLib.MainContext.default().iteration(False):
                 pass
             return all(any(re.fullmatch(p, name) for name in announced) for p in patterns)
 
-        def heard_after_another():
+        def announces_another_secret():
             self.program.press("Neu erzeugen")
-            return heard(r"\S{10}")
+            return has_announced(r"\S{10}")
 
-        # How soon the program learns of a listener is up to the bus.
-        until(heard_after_another, "the value on the accessibility bus")
-        self.program.slide("Länge", 15)
-        until(
-            lambda: heard(r"\S{15}", "Stark", "· ca. 93 Bit"),
-            "the new value, its rating and its bits on the accessibility bus",
+        # Qt sends no events before the accessibility bus has reported the listener.
+        wait_for(announces_another_secret, "an event with the secret")
+        self.program.set_slider("Länge", 15)
+        wait_for(
+            lambda: has_announced(r"\S{15}", "Stark", "· ca. 93 Bit"),
+            "events with the new secret, its rating and its bits",
         )
 
     def test_every_control_has_a_role_and_a_german_name(self):
-        def named():
-            return {(role_name(a), a.name) for a in everything(self.program.accessible())}
+        def roles_and_names():
+            return {(role_name(a), a.name) for a in showing_objects(self.program.accessible())}
 
         expected = {
             ("slider", "Länge"),
@@ -184,7 +186,7 @@ class Controls(unittest.TestCase):
             ("button", "Maximieren"),
             ("button", "Schließen"),
         }
-        self.assertLessEqual(expected, named())
+        self.assertLessEqual(expected, roles_and_names())
         self.program.press("Passphrase")
         expected = {
             ("slider", "Wörter"),
@@ -192,7 +194,7 @@ class Controls(unittest.TestCase):
             ("check box", "Wörter groß beginnen"),
             ("check box", "Zahl anhängen"),
         }
-        until(lambda: expected <= named(), "the passphrase's controls")
+        wait_for(lambda: expected <= roles_and_names(), "the controls of the passphrase mode")
 
 
 if __name__ == "__main__":

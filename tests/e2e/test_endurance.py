@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Long use: as much memory after thousands of secrets as before, and a random source that fails."""
+"""Long use: constant memory over thousands of secrets, and a random source that fails."""
 
 import mmap
 import os
@@ -12,24 +12,24 @@ import subprocess
 import tempfile
 import unittest
 
-from desktop import PROGRAM, Desktop, Program, first, until
+from desktop import PROGRAM, Desktop, Program, find_first, wait_for
 
 TOLERANCE = 1024
-"""KiB by which memory may grow over all repetitions: less than any object for each of them."""
+"""KiB by which memory may grow in total. One leaked object per repetition takes more."""
 
 ALERT = "Einstellung prüfen"
 
 
 class RandomSource:
-    """The page that FailingRandom.cpp shares with the program."""
+    """Controls FailingRandom.cpp, through a page of memory shared with the program."""
 
     def __init__(self):
         self._file = tempfile.NamedTemporaryFile(prefix="morvane-e2e-")
         self._file.truncate(mmap.PAGESIZE)
         self._page = mmap.mmap(self._file.fileno(), mmap.PAGESIZE)
 
-    def program(self, desktop):
-        """The program under test, drawing from this source."""
+    def start_program(self, desktop):
+        """Starts the program under test with this random source."""
         return Program(
             desktop,
             preload=os.environ["MORVANE_FAILING_RANDOM"],
@@ -38,9 +38,10 @@ class RandomSource:
 
     @property
     def draws(self):
+        """How often the program has drawn random bytes."""
         return struct.unpack_from("=Q", self._page, 0)[0]
 
-    def fail(self, fails):
+    def set_failing(self, fails):
         struct.pack_into("=Q", self._page, 8, fails)
 
     def close(self):
@@ -49,59 +50,61 @@ class RandomSource:
 
 
 def setUpModule():
-    Source.desktop = Desktop()
-    unittest.addModuleCleanup(Source.desktop.close)
+    RandomSourceTest.desktop = Desktop()
+    unittest.addModuleCleanup(RandomSourceTest.desktop.close)
 
 
-class Source(unittest.TestCase):
+class RandomSourceTest(unittest.TestCase):
+    """Starts the program with a controlled random source."""
+
     desktop = None
 
     def setUp(self):
         self.source = RandomSource()
         self.addCleanup(self.source.close)
-        self.program = self.enterContext(self.source.program(self.desktop))
+        self.program = self.enterContext(self.source.start_program(self.desktop))
         self.program.activate()
-        self.value = until(self.program.value, "a secret")
+        self.secret = wait_for(self.program.value, "a secret")
 
     def quit(self):
         self.program.key("ctrl+q")
-        self.assertEqual(self.program.ended(), (0, ""))
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
 
-class Endurance(Source):
-    def strike(self, times, chords, draws):
-        """Strikes keys again and again, and returns once the program has drawn for all of them."""
+class Endurance(RandomSourceTest):
+    def press_repeatedly(self, times, chords, draws):
+        """Presses keys repeatedly; waits until the program has made this many draws each time."""
         expected = self.source.draws + times * draws
         keys = ["xdotool", "key", "--delay", "0", "--repeat", str(times), *chords]
         subprocess.run(keys, check=True)
-        until(lambda: self.source.draws >= expected, f"{times} times {chords}")
+        wait_for(lambda: self.source.draws >= expected, f"{expected} draws after {chords}")
         self.assertEqual(self.source.draws, expected)
 
-    def draws(self, *chords):
-        """How often the program draws for these keys, of which each makes a secret."""
+    def count_draws(self, *chords):
+        """Presses keys, each of which generates a secret; returns how often the program draws."""
         start, history = self.source.draws, self.program.history()
         for chord in chords:
             self.program.key(chord)
-            until(lambda: self.program.history() != history, "another secret")
+            wait_for(lambda: self.program.history() != history, "another secret")
             history = self.program.history()
         return self.source.draws - start
 
     def memory(self):
-        """KiB of the program's memory that are no file's, once that has come to rest."""
+        """The program's memory in KiB without mapped files, once it has stopped changing."""
         status = pathlib.Path(f"/proc/{self.program.process.pid}/status")
-        seen = []
+        sizes = []
 
-        def at_rest():
+        def is_stable():
             found = re.findall(r"^Rss(?:Anon|Shmem):\s+(\d+) kB$", status.read_text(), re.MULTILINE)
             self.assertEqual(len(found), 2)
-            seen.append(sum(map(int, found)))
-            return len(seen) > 10 and len(set(seen[-10:])) == 1
+            sizes.append(sum(map(int, found)))
+            return len(sizes) > 10 and len(set(sizes[-10:])) == 1
 
-        until(at_rest, "memory at rest")
-        return seen[-1]
+        wait_for(is_stable, "memory that does not change any more")
+        return sizes[-1]
 
     def assert_no_growth(self, repetitions, repeat):
-        """Repeating so often, after a tenth of it to warm up, leaves memory as it was."""
+        """Memory does not grow while `repeat` is called. A tenth of the repetitions warm up."""
         for _ in range(repetitions // 10):
             repeat()
         before = self.memory()
@@ -109,68 +112,69 @@ class Endurance(Source):
             repeat()
         after = self.memory()
         print(f"{before} KiB, then {after} KiB", end=" ... ", flush=True)
-        # The sanitizer keeps what has been freed.
+        # AddressSanitizer delays the reuse of freed memory.
         if b"__asan_init" not in pathlib.Path(PROGRAM).read_bytes():
             self.assertLess(after - before, TOLERANCE)
 
     def test_ten_thousand_secrets(self):
-        draws = self.draws("ctrl+r")
+        draws = self.count_draws("ctrl+r")
         self.assertGreater(draws, 0)
-        self.assert_no_growth(200, lambda: self.strike(50, ["ctrl+r"], draws))
-        self.assertNotEqual(self.program.value(), self.value)
+        self.assert_no_growth(200, lambda: self.press_repeatedly(50, ["ctrl+r"], draws))
+        self.assertNotEqual(self.program.value(), self.secret)
         self.quit()
 
-    def test_a_thousand_switches_of_the_mode(self):
+    def test_a_thousand_mode_changes(self):
         self.program.click("Passwort")
-        draws = self.draws("Right", "Left")
-        # One at a time: the controls of a mode are only let go of when there is nothing else to do.
-        self.assert_no_growth(500, lambda: self.strike(1, ["Right", "Left"], draws))
+        draws = self.count_draws("Right", "Left")
+        # Each change is awaited before the next one, so that Qt's deferred deletions can run.
+        self.assert_no_growth(500, lambda: self.press_repeatedly(1, ["Right", "Left"], draws))
         self.assertRegex(self.program.value(), r"^\S{10}$")
         self.quit()
 
 
-class Failure(Source):
+class Failure(RandomSourceTest):
     def alert(self):
-        return first(self.program.accessible(), lambda a: a.name == ALERT)
+        return find_first(self.program.accessible(), lambda a: a.name == ALERT)
 
-    def fails(self, action):
-        """After `action` there is the alert, and still the same secret; both outlast its end."""
+    def assert_fails(self, action):
+        """The action opens the alert; the secret and the history do not change."""
         history = self.program.history()
         action()
-        until(self.alert, "the alert")
+        wait_for(self.alert, "the alert")
         self.program.find(
             lambda a: a.name
             == "Der sichere Zufallsgenerator von macOS konnte nicht verwendet werden.",
             "the message",
         )
-        self.assertEqual((self.program.value(), self.program.history()), (self.value, history))
+        self.assertEqual((self.program.value(), self.program.history()), (self.secret, history))
         self.program.key("Return")
-        until(lambda: not self.alert(), "the end of the alert")
-        self.assertEqual((self.program.value(), self.program.history()), (self.value, history))
+        wait_for(lambda: not self.alert(), "a closed alert")
+        self.assertEqual((self.program.value(), self.program.history()), (self.secret, history))
 
-    def succeeds(self, action, pattern):
+    def assert_succeeds(self, action, pattern):
+        """The action generates another secret and opens no alert."""
         history = self.program.history()
         action()
-        until(lambda: self.program.history() != history, "another secret")
+        wait_for(lambda: self.program.history() != history, "another secret")
         self.assertIsNone(self.alert())
-        self.assertNotEqual(self.program.value(), self.value)
+        self.assertNotEqual(self.program.value(), self.secret)
         self.assertRegex(self.program.value(), pattern)
-        self.value = self.program.value()
+        self.secret = self.program.value()
 
-    def test_a_source_that_fails_for_a_while(self):
-        def again():
+    def test_a_random_source_that_fails_temporarily(self):
+        def regenerate():
             self.program.key("ctrl+r")
 
-        self.succeeds(again, r"^\S{10}$")
-        self.source.fail(True)
-        self.fails(again)
-        self.fails(again)
-        self.source.fail(False)
-        self.succeeds(again, r"^\S{10}$")
-        self.source.fail(True)
-        self.fails(lambda: self.program.click("Passphrase"))
-        self.source.fail(False)
-        self.succeeds(again, r"^([a-z]+-){5}[0-9]{1,2}$")
+        self.assert_succeeds(regenerate, r"^\S{10}$")
+        self.source.set_failing(True)
+        self.assert_fails(regenerate)
+        self.assert_fails(regenerate)
+        self.source.set_failing(False)
+        self.assert_succeeds(regenerate, r"^\S{10}$")
+        self.source.set_failing(True)
+        self.assert_fails(lambda: self.program.click("Passphrase"))
+        self.source.set_failing(False)
+        self.assert_succeeds(regenerate, r"^([a-z]+-){5}[0-9]{1,2}$")
         self.quit()
 
 

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The window's own frame under an X11 window manager: buttons, edges, strip and menu."""
+"""The client-side decorations under an X11 window manager: title bar, buttons, edges and menu."""
 
 import contextlib
 import ctypes
@@ -11,13 +11,23 @@ import re
 import subprocess
 import unittest
 
-from desktop import Desktop, Program, everything, first, key, output, point, role_name, until
+from desktop import (
+    Desktop,
+    Program,
+    find_first,
+    key,
+    move_pointer,
+    output,
+    role_name,
+    showing_objects,
+    wait_for,
+)
 
 DESKTOP_ENTRY = pathlib.Path(__file__).parents[2] / "packaging/de.morvane.Morvane.desktop"
 
 
 class CursorImage(ctypes.Structure):
-    """The beginning of what the X server tells of the pointer's picture."""
+    """XFixesCursorImage of libXfixes."""
 
     _fields_ = [
         ("x", ctypes.c_short),
@@ -34,7 +44,7 @@ class CursorImage(ctypes.Structure):
 
 
 def cursor_outline():
-    """Which pixels of the pointer's picture are drawn, as rows of text without the empty edges."""
+    """The opaque pixels of the pointer's image as rows of text, without empty rows and columns."""
     x11 = ctypes.CDLL("libX11.so.6")
     fixes = ctypes.CDLL("libXfixes.so.3")
     x11.XOpenDisplay.restype = ctypes.c_void_p
@@ -66,7 +76,8 @@ def button_held():
         subprocess.run(["xdotool", "mouseup", "1"], check=True)
 
 
-def pasted(target="UTF8_STRING"):
+def clipboard(target="UTF8_STRING"):
+    """The clipboard's contents in one format."""
     return output("timeout", "2", "xclip", "-o", "-selection", "clipboard", "-t", target)
 
 
@@ -77,71 +88,71 @@ class Frame(unittest.TestCase):
         cls.addClassCleanup(cls.desktop.close)
 
     def setUp(self):
-        # Not where the window comes to be: its edges would have a pointer of their own.
-        point(0, 1700)
+        # Outside of the new window, whose edges would change the pointer.
+        move_pointer(0, 1700)
         self.program = self.enterContext(Program(self.desktop))
         self.program.find(lambda a: a.name == "Schließen", "the window")
         self.window = self.program.window()
         subprocess.run(["xdotool", "windowmove", "--sync", self.window, "300", "200"], check=True)
-        until(lambda: self.place()[:2] == (300, 200), "the window at its place")
-        self.point_at_ground()
+        wait_for(lambda: self.geometry()[:2] == (300, 200), "the window at its position")
+        self.move_pointer_to_background()
         self.usual_pointer = cursor_outline()
 
-    def point_at_ground(self):
-        """Where the settings have their margin."""
-        left, top = self.place()[:2]
-        point(left + 12, top + 300)
+    def move_pointer_to_background(self):
+        """Moves the pointer to the margin of the left panel."""
+        left, top = self.geometry()[:2]
+        move_pointer(left + 12, top + 300)
 
-    def place(self):
-        """Left, top, width and height on the screen."""
-        told = output("xwininfo", "-id", self.window)
+    def geometry(self):
+        """The window's left edge, top edge, width and height in screen coordinates."""
+        info = output("xwininfo", "-id", self.window)
         return tuple(
-            int(re.search(rf"{name}:\s+(-?\d+)", told)[1])
+            int(re.search(rf"{name}:\s+(-?\d+)", info)[1])
             for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
         )
 
     def state(self):
         return output("xprop", "-id", self.window, "_NET_WM_STATE", "WM_STATE")
 
-    def drag(self, start, end, there):
-        """Drags from one point of the screen to another until the window is where it should be."""
-        before = self.place()
-        # Far enough for a drag, and not yet as far as it goes.
+    def drag(self, start, end, is_expected):
+        """Drags from one point of the screen to another until the window's geometry is expected."""
+        before = self.geometry()
+        # Far enough to begin a drag, but not farther than its end.
         x, y = (a + max(-20, min(20, b - a)) for a, b in zip(start, end))
-        shaking = itertools.cycle(((x, y), (x + 1, y + 1)))
+        small_moves = itertools.cycle(((x, y), (x + 1, y + 1)))
 
-        def follows():
-            point(*next(shaking))
-            return self.place() != before
+        def window_moves():
+            move_pointer(*next(small_moves))
+            return self.geometry() != before
 
-        point(*start)
+        move_pointer(*start)
         with button_held():
-            until(follows, "a window that follows the pointer")
-            point(*end)
-            until(lambda: there(self.place()), f"a window dragged to {end}")
+            wait_for(window_moves, "a window that follows the pointer")
+            move_pointer(*end)
+            wait_for(lambda: is_expected(self.geometry()), f"a window dragged to {end}")
 
     def resize(self, start, end, expected):
-        """Takes hold of an edge at one point of the screen and lets it go at another.
+        """Drags an edge from one point of the screen to another.
 
-        The edge keeps the distance to the pointer that it has when the program asks the window
-        manager to resize, so the pointer stays until that one shows its own.
+        The edge keeps its distance to the pointer once the window manager has begun to resize, so
+        the pointer does not move before the window manager has changed the pointer's shape.
         """
-        self.point_at_ground()
-        until(lambda: cursor_outline() == self.usual_pointer, "the usual pointer")
-        point(*start)
-        until(lambda: cursor_outline() != self.usual_pointer, "a pointer that tells of resizing")
+        self.move_pointer_to_background()
+        wait_for(lambda: cursor_outline() == self.usual_pointer, "the usual pointer")
+        move_pointer(*start)
+        wait_for(lambda: cursor_outline() != self.usual_pointer, "a pointer for resizing")
         pointers = (self.usual_pointer, cursor_outline())
         with button_held():
-            until(lambda: cursor_outline() not in pointers, "the window manager's pointer")
-            point(*end)
-            until(lambda: self.place() == expected, f"{expected} after {end}")
+            wait_for(lambda: cursor_outline() not in pointers, "the window manager's pointer")
+            move_pointer(*end)
+            wait_for(lambda: self.geometry() == expected, f"the geometry {expected}")
 
-    def assert_secret(self):
-        """What is copied is plain text, with the mark of a secret."""
-        formats = pasted("TARGETS").split()
+    def assert_clipboard_holds_secret(self):
+        """The clipboard holds plain text with the hint that the text is a secret."""
+        formats = clipboard("TARGETS").split()
         self.assertIn("text/plain", formats)
         self.assertNotIn("text/html", formats)
-        self.assertEqual(pasted("x-kde-passwordManagerHint"), "secret")
+        self.assertEqual(clipboard("x-kde-passwordManagerHint"), "secret")
 
     def test_the_window_manager_adds_no_frame(self):
         extents = output("xprop", "-id", self.window, "_NET_FRAME_EXTENTS")
@@ -149,14 +160,14 @@ class Frame(unittest.TestCase):
         name = output("xprop", "-id", self.window, "_NET_WM_NAME")
         self.assertNotIn("File", name)
 
-    def test_a_dock_finds_the_desktop_entry_by_the_class_of_the_window(self):
-        told = output("xprop", "-id", self.window, "WM_CLASS")
-        window_class = re.fullmatch(r'WM_CLASS\(STRING\) = ".*", "(.*)"\n', told)[1]
+    def test_the_window_class_is_the_one_of_the_desktop_entry(self):
+        info = output("xprop", "-id", self.window, "WM_CLASS")
+        window_class = re.fullmatch(r'WM_CLASS\(STRING\) = ".*", "(.*)"\n', info)[1]
         entry = DESKTOP_ENTRY.read_text(encoding="utf-8").splitlines()
         self.assertIn(f"StartupWMClass={window_class}", entry)
 
     def test_every_edge_and_corner_resizes(self):
-        # Where to take hold, in fractions of the window; which way to go; what becomes of it.
+        # Name, position as fractions of the window's size, pointer movement, change of geometry.
         for name, at, by, change in (
             ("left", (0, 0.5), (-40, 0), (-40, 0, 40, 0)),
             ("right", (1, 0.5), (40, 0), (0, 0, 40, 0)),
@@ -168,7 +179,7 @@ class Frame(unittest.TestCase):
             ("bottom right", (1, 1), (40, 30), (0, 0, 40, 30)),
         ):
             with self.subTest(name):
-                before = self.place()
+                before = self.geometry()
                 start = tuple(
                     int(before[i] + at[i] * (before[i + 2] - 1) + (2 if at[i] == 0 else 0))
                     for i in (0, 1)
@@ -177,14 +188,14 @@ class Frame(unittest.TestCase):
                 end = (start[0] + by[0], start[1] + by[1])
                 self.resize(start, end, expected)
 
-    def test_no_edge_makes_it_smaller_than_its_content(self):
-        left, top, width, height = self.place()
+    def test_resizing_stops_at_the_minimum_size(self):
+        left, top, width, height = self.geometry()
         start = (left + width - 1, top + height - 1)
         self.resize(start, (left + 200, top + 200), (left, top, 760, 610))
 
-    def test_edges_and_corners_show_where_they_lead(self):
-        left, top, width, height = self.place()
-        point(left + width // 2, top + height // 2)
+    def test_edges_and_corners_change_the_pointer(self):
+        left, top, width, height = self.geometry()
+        move_pointer(left + width // 2, top + height // 2)
         outlines = {}
         for name, x, y in (
             ("left", left + 1, top + height // 2),
@@ -193,8 +204,8 @@ class Frame(unittest.TestCase):
             ("top right", left + width - 2, top + 1),
         ):
             usual = cursor_outline()
-            point(x, y)
-            until(lambda: cursor_outline() != usual, f"another pointer at the {name}")
+            move_pointer(x, y)
+            wait_for(lambda: cursor_outline() != usual, f"another pointer at the {name}")
             outlines[name] = cursor_outline()
         self.assertEqual(len({tuple(rows) for rows in outlines.values()}), 4)
         for name, x, y in (
@@ -203,61 +214,63 @@ class Frame(unittest.TestCase):
             ("top left", left + width - 1, top + height - 1),
             ("top right", left + 1, top + height - 1),
         ):
-            point(x, y)
-            until(lambda: cursor_outline() == outlines[name], f"the pointer opposite {name}")
+            move_pointer(x, y)
+            wait_for(lambda: cursor_outline() == outlines[name], f"the pointer opposite {name}")
         self.assertGreater(len(outlines["left"][0]), len(outlines["left"]))
         self.assertLess(len(outlines["top"][0]), len(outlines["top"]))
 
-    def test_the_strip_moves_the_window_by_its_left_end(self):
+    def test_the_left_end_of_the_title_bar_moves_the_window(self):
         self.assert_moves_by(140)
 
-    def test_the_strip_moves_the_window_by_its_middle(self):
+    def test_the_middle_of_the_title_bar_moves_the_window(self):
         self.assert_moves_by(500)
 
     def assert_moves_by(self, x):
-        left, top, width, height = self.place()
-        # It follows from where the program saw that the pointer had moved enough for a drag.
+        left, top, width, height = self.geometry()
+        # The window moves by less than the pointer, whose first pixels only begin the drag.
         self.drag(
             (left + x, top + 12),
             (left + x + 150, top + 12 + 150),
-            lambda place: 100 <= place[0] - left <= 150,
+            lambda geometry: 100 <= geometry[0] - left <= 150,
         )
-        self.assertEqual(self.place()[0] - left, self.place()[1] - top)
-        self.assertEqual(self.place()[2:], (width, height))
+        self.assertEqual(self.geometry()[0] - left, self.geometry()[1] - top)
+        self.assertEqual(self.geometry()[2:], (width, height))
 
-    def test_a_double_click_on_the_strip_maximises_and_restores(self):
-        before = self.place()
+    def test_a_double_click_on_the_title_bar_maximises_and_restores(self):
+        before = self.geometry()
         for expected in (True, False):
-            left, top = self.place()[:2]
-            point(left + 450, top + 15)
+            left, top = self.geometry()[:2]
+            move_pointer(left + 450, top + 15)
             subprocess.run(["xdotool", "click", "--repeat", "2", "--delay", "60", "1"], check=True)
-            until(lambda: ("MAXIMIZED_VERT" in self.state()) == expected, f"maximised: {expected}")
-        until(lambda: self.place() == before, "the window as it was")
+            wait_for(
+                lambda: ("MAXIMIZED_VERT" in self.state()) == expected, f"maximised: {expected}"
+            )
+        wait_for(lambda: self.geometry() == before, "the window's previous geometry")
 
     def test_the_buttons_maximise_restore_minimise_and_close(self):
         self.program.click("Maximieren")
-        until(lambda: "MAXIMIZED_VERT" in self.state(), "a maximised window")
+        wait_for(lambda: "MAXIMIZED_VERT" in self.state(), "a maximised window")
         self.program.click("Wiederherstellen")
-        until(lambda: "MAXIMIZED_VERT" not in self.state(), "a restored window")
+        wait_for(lambda: "MAXIMIZED_VERT" not in self.state(), "a restored window")
         self.program.click("Minimieren")
-        until(lambda: "Iconic" in self.state(), "a minimised window")
+        wait_for(lambda: "Iconic" in self.state(), "a minimised window")
         subprocess.run(["wmctrl", "-i", "-a", self.window], check=True)
-        until(lambda: "Normal" in self.state(), "the window again")
+        wait_for(lambda: "Normal" in self.state(), "the restored window")
         self.program.click("Schließen")
-        self.assertEqual(self.program.ended(), (0, ""))
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
     def open_menu(self):
         key("F10")
         self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
 
     def menu_is_closed(self):
-        return first(self.program.accessible(), lambda a: a.name == "Morvane beenden") is None
+        return find_first(self.program.accessible(), lambda a: a.name == "Morvane beenden") is None
 
-    def test_the_menu_holds_the_standard_commands(self):
+    def test_the_menu_contains_the_standard_items(self):
         self.open_menu()
         names = [
             a.name
-            for a in everything(self.program.accessible())
+            for a in showing_objects(self.program.accessible())
             if role_name(a) == "menu item"
         ]
         self.assertEqual(
@@ -272,49 +285,49 @@ class Frame(unittest.TestCase):
             ],
         )
         key("Escape")
-        until(self.menu_is_closed, "a closed menu")
+        wait_for(self.menu_is_closed, "a closed menu")
 
-    def test_the_menu_is_walked_by_arrow_keys(self):
+    def test_arrow_keys_move_through_the_menu(self):
         self.open_menu()
         key("Down", "Down", "Down", "Down", "Down", "Return")
-        self.assertEqual(self.program.ended(), (0, ""))
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
     def test_the_menu_button_opens_and_closes_the_menu(self):
         self.program.click("Menü")
         self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
         self.program.click("Menü")
-        until(self.menu_is_closed, "a closed menu")
+        wait_for(self.menu_is_closed, "a closed menu")
 
-    def test_a_menu_command_works_through_the_accessibility_bus(self):
+    def test_a_menu_item_works_through_the_accessibility_bus(self):
         self.open_menu()
         self.program.press("Fenster schließen")
-        self.assertEqual(self.program.ended(), (0, ""))
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
-    def test_the_value_is_selected_and_copied_through_the_menu(self):
-        value = self.program.value()
+    def test_menu_items_select_and_copy_the_secret(self):
+        secret = self.program.value()
         self.open_menu()
         self.program.click("Alles auswählen")
-        until(self.menu_is_closed, "a closed menu")
+        wait_for(self.menu_is_closed, "a closed menu")
         self.open_menu()
         self.program.click("Kopieren", "menu item")
-        until(lambda: pasted() == value, "the value on the clipboard")
-        self.assert_secret()
+        wait_for(lambda: clipboard() == secret, "the secret on the clipboard")
+        self.assert_clipboard_holds_secret()
 
-    def test_the_usual_keys(self):
+    def test_standard_shortcuts(self):
         key("ctrl+m")
-        until(lambda: "Iconic" in self.state(), "a minimised window")
+        wait_for(lambda: "Iconic" in self.state(), "a minimised window")
         subprocess.run(["wmctrl", "-i", "-a", self.window], check=True)
-        until(lambda: "Normal" in self.state(), "the window again")
-        value = self.program.value()
+        wait_for(lambda: "Normal" in self.state(), "the restored window")
+        secret = self.program.value()
         key("ctrl+a", "ctrl+c")
-        until(lambda: pasted() == value, "the value on the clipboard")
-        self.assert_secret()
+        wait_for(lambda: clipboard() == secret, "the secret on the clipboard")
+        self.assert_clipboard_holds_secret()
         key("ctrl+q")
-        self.assertEqual(self.program.ended(), (0, ""))
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
-    def test_closing_by_key(self):
+    def test_the_shortcut_for_closing(self):
         key("ctrl+w")
-        self.assertEqual(self.program.ended(), (0, ""))
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
 
 if __name__ == "__main__":

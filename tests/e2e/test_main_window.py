@@ -1,14 +1,14 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The main window as a person meets it: real window, real keys, accessibility bus."""
+"""The main window under X11, used through keys, the window manager and the accessibility bus."""
 
 import os
 import re
 import subprocess
 import unittest
 
-from desktop import Desktop, Program, first, output, role_name, until
+from desktop import Desktop, Program, find_first, output, role_name, wait_for
 
 FAILING_RANDOM = os.environ["MORVANE_FAILING_RANDOM"]
 
@@ -16,7 +16,7 @@ LOOK_ALIKES = "Il1O0o"
 
 
 def is_password(accessible):
-    # Some controls are named with as many letters.
+    # The role excludes controls whose names have ten letters.
     return role_name(accessible) == "label" and re.fullmatch(
         r"[A-Za-z0-9!@#$%&*+\-=?_~]{10}", accessible.name
     )
@@ -36,17 +36,17 @@ class MainWindow(unittest.TestCase):
         with Program(self.desktop) as program:
             password = program.find(is_password, "a password of ten characters").name
             self.assertFalse(set(password) & set(LOOK_ALIKES), password)
-            self.assertIsNone(first(program.accessible(), is_alert))
+            self.assertIsNone(find_first(program.accessible(), is_alert))
 
-    def test_a_switch_is_thrown_through_the_accessibility_bus(self):
+    def test_a_switch_is_toggled_through_the_accessibility_bus(self):
         with Program(self.desktop) as program:
             password = program.find(is_password, "a password").name
             switch = program.find(lambda a: a.name == "Sonderzeichen", "the switch")
             actions = switch.queryAction()
             names = [actions.getName(i) for i in range(actions.nActions)]
             actions.doAction(names.index("Toggle"))
-            changed = until(
-                lambda: first(
+            changed = wait_for(
+                lambda: find_first(
                     program.accessible(), lambda a: is_password(a) and a.name != password
                 ),
                 "another password",
@@ -76,16 +76,16 @@ class MainWindow(unittest.TestCase):
                 lambda a: re.fullmatch(r"([a-z]+-){5}[0-9]{1,2}", a.name), "a passphrase"
             )
             program.find(lambda a: a.name == "Wörter groß beginnen", "the passphrase's switches")
-            self.assertIsNone(first(program.accessible(), lambda a: a.name == "Sonderzeichen"))
+            self.assertIsNone(find_first(program.accessible(), lambda a: a.name == "Sonderzeichen"))
 
-    def test_every_start_shows_another_password(self):
+    def test_every_start_shows_a_different_password(self):
         passwords = set()
         for _ in range(3):
             with Program(self.desktop) as program:
                 passwords.add(program.find(is_password, "a password").name)
         self.assertEqual(len(passwords), 3)
 
-    def test_cannot_be_made_smaller_than_its_content_but_larger(self):
+    def test_has_a_minimum_size_and_no_maximum_size(self):
         with Program(self.desktop) as program:
             window = program.window()
             self.assertIn(
@@ -97,7 +97,7 @@ class MainWindow(unittest.TestCase):
 
     def resize(self, window, width, height, expected):
         subprocess.run(["xdotool", "windowsize", window, str(width), str(height)], check=True)
-        until(
+        wait_for(
             lambda: f"-geometry {expected}" in output("xwininfo", "-id", window),
             f"a window of {expected}",
         )
@@ -107,18 +107,17 @@ class MainWindow(unittest.TestCase):
             window = program.window()
             program.find(is_password, "a password")
             subprocess.run(["wmctrl", "-i", "-c", window], check=True)
-            status, errors = program.ended()
-            self.assertEqual((status, errors), (0, ""))
+            self.assertEqual(program.wait_for_exit(), (0, ""))
 
     def test_leaves_nothing_in_the_home_folder(self):
         with Program(self.desktop) as program:
             window = program.window()
             program.find(is_password, "a password")
             subprocess.run(["wmctrl", "-i", "-c", window], check=True)
-            program.ended()
+            program.wait_for_exit()
         self.assertEqual(sorted(self.desktop.home.rglob("*")), [])
 
-    def test_a_failing_random_source_is_shown_and_dismissed(self):
+    def test_a_failing_random_source_shows_an_alert(self):
         with Program(self.desktop, preload=FAILING_RANDOM) as program:
             program.window()
             program.find(is_alert, "the alert")
@@ -130,15 +129,17 @@ class MainWindow(unittest.TestCase):
             self.desktop.screenshot("alert")
             program.find(lambda a: a.name == "OK", "the button")
             subprocess.run(["xdotool", "key", "Return"], check=True)
-            until(lambda: first(program.accessible(), is_alert) is None, "the end of the alert")
+            wait_for(lambda: find_first(program.accessible(), is_alert) is None, "a closed alert")
             self.assertIsNone(program.process.poll())
 
-    def test_says_so_where_there_is_no_display(self):
+    def test_reports_a_missing_display(self):
         with Program(self.desktop, with_display=False) as program:
-            status, errors = program.ended()
+            status, errors = program.wait_for_exit()
         self.assertEqual(status, 1)
         self.assertTrue(
-            errors.endswith("Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.\n"),
+            errors.endswith(
+                "Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.\n"
+            ),
             errors,
         )
 

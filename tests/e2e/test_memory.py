@@ -1,7 +1,11 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The program's memory is kept from dumps and from others, who still see what they have to."""
+"""Core dumps leave out the program's memory, and other processes of the user cannot read it.
+
+The desktop portal refuses calls of a process that is hidden in this way, so the program hides its
+memory after the portal has answered.
+"""
 
 import os
 import pathlib
@@ -12,11 +16,25 @@ import sys
 import tempfile
 import unittest
 
-from desktop import ARTIFACTS, PROGRAM, Desktop, Program, output, until
+from desktop import ARTIFACTS, PROGRAM, Desktop, Program, output, wait_for
 from portal import APPEARANCE, Portal
 
 DARK = "#323232"
-"""The ground of the left panel."""
+"""The background of the left panel in the dark scheme."""
+
+READ_SETTINGS = """
+import ctypes, sys, dbus
+PR_SET_DUMPABLE = 4
+ctypes.CDLL(None).prctl(PR_SET_DUMPABLE, int(sys.argv[1]), 0, 0, 0)
+name, path = "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop"
+portal = dbus.SessionBus().get_object(name, path, introspect=False)
+try:
+    portal.ReadAll([""], dbus_interface="org.freedesktop.portal.Settings")
+    print("answered")
+except dbus.DBusException as error:
+    print(error.get_dbus_name())
+"""
+"""A program that reads the portal's settings; with the argument 0, its process is hidden."""
 
 
 class Memory(unittest.TestCase):
@@ -26,39 +44,53 @@ class Memory(unittest.TestCase):
         cls.addClassCleanup(cls.desktop.close)
 
     def assert_hidden(self, program):
-        place = pathlib.Path(f"/proc/{program.process.pid}")
-        until(lambda: (place / "maps").stat().st_uid != os.geteuid(), "a process that is hidden")
+        process = pathlib.Path(f"/proc/{program.process.pid}")
+        wait_for(lambda: (process / "maps").stat().st_uid != os.geteuid(), "a hidden process")
         with self.assertRaises(PermissionError):
-            (place / "mem").open("rb")
+            (process / "mem").open("rb")
         limits = resource.prlimit(program.process.pid, resource.RLIMIT_CORE)
         self.assertEqual(limits, (0, 0))
 
-    def ground(self, program):
-        picture = ARTIFACTS / "memory.png"
-        program.picture(picture)
-        return output("convert", str(picture), "-format", "#%[hex:u.p{12,12}]", "info:")[:7]
+    def background(self, program):
+        screenshot = ARTIFACTS / "memory.png"
+        program.save_screenshot(screenshot)
+        return output("convert", str(screenshot), "-format", "#%[hex:u.p{12,12}]", "info:")[:7]
 
-    def test_is_hidden_where_nobody_asks(self):
+    def test_is_hidden_without_a_portal(self):
         with Program(self.desktop) as program:
             program.window()
             self.assert_hidden(program)
 
     def test_is_hidden_without_a_bus(self):
-        nowhere = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"}
-        with Program(self.desktop, variables=nowhere) as program:
+        no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
+        with Program(self.desktop, variables=no_bus) as program:
             program.window()
             self.assert_hidden(program)
 
-    def test_is_hidden_from_all_but_the_portal(self):
+    def test_is_hidden_after_the_portal_has_answered(self):
         with Portal() as portal:
             portal.set(APPEARANCE, "color-scheme", 1)
             with Program(self.desktop) as program:
-                until(lambda: self.ground(program) == DARK, "the scheme that the portal told")
+                wait_for(lambda: self.background(program) == DARK, "the portal's colour scheme")
                 self.assert_hidden(program)
+
+    def test_the_mock_portal_refuses_a_hidden_process(self):
+        """Without this refusal, the test above would pass with a program that hides too early."""
+        with Portal():
+            answers = [
+                subprocess.run(
+                    [sys.executable, "-c", READ_SETTINGS, flag],
+                    stdout=subprocess.PIPE,
+                    text=True,
+                    check=True,
+                ).stdout.strip()
+                for flag in ("1", "0")
+            ]
+        self.assertEqual(answers, ["answered", "org.freedesktop.DBus.Error.AccessDenied"])
 
 
 def run_as_nobody():
-    """Runs these tests as a user from whom things can be hidden; returns the exit status."""
+    """Runs these tests as a user without root's privileges; returns the exit status."""
     nobody = 65534
     with tempfile.TemporaryDirectory(prefix="morvane-e2e-") as name:
         folder = pathlib.Path(name)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""A whole session on X11 under the eyes of strace: nothing is stored, and nothing is sent."""
+"""strace shows that the program stores and sends nothing while all of its functions are used."""
 
 import os
 import pathlib
@@ -14,20 +14,20 @@ from desktop import (
     DEADLINE,
     Desktop,
     Program,
-    everything,
-    first,
+    showing_objects,
+    find_first,
     output,
     role_name,
-    until,
+    wait_for,
 )
-from systemcalls import offences, read, read_files, tracing
+from systemcalls import find_violations, opened_files, parse_trace, trace_command
 
 PROGRAMS = {
     "sandboxed": os.environ["MORVANE_PROGRAM"],
     "unsandboxed": os.environ["MORVANE_UNSANDBOXED_PROGRAM"],
 }
 
-STAYS = 30.0
+CLEAR_DELAY = 30.0
 """Seconds after which a copied value is cleared."""
 
 ALERT = "Einstellung prüfen"
@@ -35,7 +35,7 @@ ABOUT = "Über Morvane"
 
 
 class Session:
-    """Everything that a person can do with the program, once."""
+    """Uses every function of the program once."""
 
     clipboard_command = ("xclip", "-o", "-selection", "clipboard")
 
@@ -45,55 +45,57 @@ class Session:
     def clipboard(self):
         return output("timeout", "10", *self.clipboard_command)
 
-    def spend(self):
-        """From the first window until the program has ended."""
+    def run(self):
+        """Uses the program from the first window until the program has ended."""
         self.program.activate()
         self.generate_and_copy()
-        self.set_passwords()
-        self.provoke_the_alert()
-        self.take_back()
-        self.set_passphrases()
-        self.look_at_the_rest()
-        until(lambda: not self.clipboard(), "an empty clipboard", STAYS + DEADLINE)
+        self.change_password_settings()
+        self.open_and_close_the_alert()
+        self.restore_from_the_history()
+        self.change_passphrase_settings()
+        self.open_and_close_the_about_window()
+        wait_for(lambda: not self.clipboard(), "an empty clipboard", CLEAR_DELAY + DEADLINE)
         self.program.key("ctrl+q")
-        if self.program.ended() != (0, ""):
-            raise AssertionError("not ended well")
+        if self.program.wait_for_exit() != (0, ""):
+            raise AssertionError("the program ended with an error or a warning")
 
     def generate(self, action):
         before = self.program.history()
         action()
-        until(lambda: self.program.history() != before, "another secret")
+        wait_for(lambda: self.program.history() != before, "another secret")
 
     def generate_and_copy(self):
         self.program.click("Kopieren", "button")
-        until(lambda: self.clipboard() == self.program.value(), "the secret on the clipboard")
+        wait_for(lambda: self.clipboard() == self.program.value(), "the first copy")
         self.generate(lambda: self.program.click("Neu erzeugen"))
         self.generate(lambda: self.program.key("ctrl+r"))
         self.program.key("ctrl+shift+c")
-        until(lambda: self.clipboard() == self.program.value(), "the next one on the clipboard")
+        wait_for(lambda: self.clipboard() == self.program.value(), "the second copy")
 
-    def set_passwords(self):
-        self.generate(lambda: self.program.slide("Länge", 24))
+    def change_password_settings(self):
+        self.generate(lambda: self.program.set_slider("Länge", 24))
         for name in ("Ähnliche Zeichen vermeiden", "Jede Gruppe muss vorkommen"):
             self.generate(lambda: self.program.click(name))
 
-    def provoke_the_alert(self):
+    def open_and_close_the_alert(self):
         for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen"):
             self.generate(lambda: self.program.click(name))
         self.program.click("Sonderzeichen")
         self.program.find(lambda a: a.name == ALERT, "the alert")
         self.program.key("Return")
-        until(lambda: not first(self.program.accessible(), lambda a: a.name == ALERT), "no alert")
+        wait_for(
+            lambda: not find_first(self.program.accessible(), lambda a: a.name == ALERT), "no alert"
+        )
         self.generate(lambda: self.program.click("Zahlen"))
 
-    def take_back(self):
+    def restore_from_the_history(self):
         row = self.program.history()[2]
         self.program.click(row, "button")
-        until(lambda: self.program.value() == row, "the third secret on show")
+        wait_for(lambda: self.program.value() == row, "the third secret in the display")
 
-    def set_passphrases(self):
+    def change_passphrase_settings(self):
         self.generate(lambda: self.program.click("Passphrase"))
-        self.generate(lambda: self.program.slide("Wörter", 8))
+        self.generate(lambda: self.program.set_slider("Wörter", 8))
         for name in ("Wörter groß beginnen", "Zahl anhängen"):
             self.generate(lambda: self.program.click(name))
         self.program.click("Trennzeichen")
@@ -101,7 +103,7 @@ class Session:
         self.generate(lambda: self.program.key("x"))
         self.generate(lambda: self.program.click("Passwort"))
 
-    def look_at_the_rest(self):
+    def open_and_close_the_about_window(self):
         self.program.key("F10")
         self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
         self.program.key("Down", "Return")
@@ -109,33 +111,33 @@ class Session:
             lambda a: a.name == ABOUT and role_name(a) in ("dialog", "frame", "window"),
             "the About window",
         )
-        until(lambda: everything(about), "what the About window says")
-        self.until_active(about)
+        wait_for(lambda: showing_objects(about), "the contents of the About window")
+        self.wait_until_active(about)
         self.program.key("Escape")
-        until(
-            lambda: not first(self.program.accessible(), lambda a: a.name == ABOUT),
+        wait_for(
+            lambda: not find_first(self.program.accessible(), lambda a: a.name == ABOUT),
             "no About window",
         )
         self.program.activate()
 
     @staticmethod
-    def until_active(window):
+    def wait_until_active(window):
         import pyatspi
 
-        until(lambda: window.getState().contains(pyatspi.STATE_ACTIVE), "an active window")
+        wait_for(lambda: window.getState().contains(pyatspi.STATE_ACTIVE), "an active window")
 
 
 class Privacy(unittest.TestCase):
     desktop_type, program_type, session_type = Desktop, Program, Session
     variables = {}
     libraries = {"libQt6XcbQpa"}
-    """Some of those without which the test would not be what it says."""
+    """Libraries that the program loads if it uses the intended platform and graphics driver."""
 
     @classmethod
     def setUpClass(cls):
         cls.desktop = cls.desktop_type()
         cls.addClassCleanup(cls.desktop.close)
-        # The search for leaks would trace the program as well, which one can do at a time.
+        # LeakSanitizer traces the program as well, and a process has at most one tracer.
         cls.enterClassContext(
             mock.patch.dict(
                 os.environ,
@@ -163,24 +165,24 @@ class Privacy(unittest.TestCase):
         ARTIFACTS.mkdir(parents=True, exist_ok=True)
         log = ARTIFACTS / f"{type(self).__name__}-{name}.strace"
         with self.program_type(
-            self.desktop, program=program, under=tracing(log), variables=self.variables
+            self.desktop, program=program, wrapper=trace_command(log), variables=self.variables
         ) as running:
-            self.session_type(running).spend()
+            self.session_type(running).run()
         with log.open(encoding="ascii") as lines:
-            calls = read(lines)
-        opened = {pathlib.PurePath(path).name.partition(".so")[0] for path in read_files(calls)}
+            calls = parse_trace(lines)
+        opened = {pathlib.PurePath(path).name.partition(".so")[0] for path in opened_files(calls)}
         self.assertLessEqual(self.libraries, opened)
         self.assertIn("connect", [call.name for call in calls])
-        self.assertEqual(list(map(str, offences(calls, program, self.peers()))), [])
+        self.assertEqual(list(map(str, find_violations(calls, program, self.peers()))), [])
         self.assertEqual(sorted(self.desktop.home.rglob("*")), [])
 
 
 class Trace(unittest.TestCase):
-    """What is read from a trace, and what is found wrong with it."""
+    """Tests of the functions that parse a trace and find violations."""
 
     PEERS = {"@/tmp/.X11-unix/X7", "/run/user/0/bus"}
 
-    HARMLESS = """
+    ALLOWED = """
 1 execve("/opt/program", [...], 0x7ffd9f342350 /* 44 vars */) = 0
 1 access("/etc/ld.so.preload", R_OK) = -1 ENOENT (No such file or directory)
 1 openat(AT_FDCWD</srv>, "/etc/ld.so.cache", O_RDONLY|O_CLOEXEC) = 3</etc/ld.so.cache>
@@ -206,7 +208,7 @@ class Trace(unittest.TestCase):
 1 +++ killed by SIGTERM +++
 """
 
-    HARMFUL = """
+    VIOLATIONS = """
 1 openat(AT_FDCWD</srv>, "/home/file", O_WRONLY|O_CREAT|O_TRUNC, 0666) = 3</home/file>
 1 openat(AT_FDCWD</srv>, "/home/file", O_RDWR) = -1 EACCES (Permission denied)
 1 openat(AT_FDCWD</srv>, "O_RDONLY", O_WRONLY) = 3</srv/O_RDONLY>
@@ -250,21 +252,21 @@ class Trace(unittest.TestCase):
 1 io_uring_setup(8, {flags=0, sq_entries=8, cq_entries=16}) = 3<anon_inode:[io_uring]>
 """
 
-    def offences(self, *lines):
-        started = self.HARMLESS.splitlines()[1]
-        return offences(read([started, *lines]), "/opt/program", self.PEERS)
+    def find_violations(self, *lines):
+        start = self.ALLOWED.splitlines()[1]
+        return find_violations(parse_trace([start, *lines]), "/opt/program", self.PEERS)
 
-    def test_nothing_is_wrong_with_reading_and_with_known_peers(self):
-        lines = self.HARMLESS.splitlines()[2:]
-        self.assertEqual(self.offences(*lines), [])
+    def test_reading_and_known_peers_are_allowed(self):
+        lines = self.ALLOWED.splitlines()[2:]
+        self.assertEqual(self.find_violations(*lines), [])
 
-    def test_everything_else_is_wrong(self):
-        for line in self.HARMFUL.splitlines()[1:]:
+    def test_other_calls_are_violations(self):
+        for line in self.VIOLATIONS.splitlines()[1:]:
             with self.subTest(line):
-                self.assertEqual(len(self.offences(line)), 1)
+                self.assertEqual(len(self.find_violations(line)), 1)
 
-    def test_a_call_is_put_together_again(self):
-        (call,) = self.offences(
+    def test_the_parts_of_an_interrupted_call_are_joined(self):
+        (call,) = self.find_violations(
             '1 openat(AT_FDCWD</srv>, "/home/file", O_RDWR <unfinished ...>',
             '2 openat(AT_FDCWD</srv>, "/etc/fstab", O_RDONLY <unfinished ...>',
             "1 <... openat resumed>) = 3</home/file>",
@@ -273,14 +275,14 @@ class Trace(unittest.TestCase):
         self.assertEqual(call.arguments, 'AT_FDCWD</srv>, "/home/file", O_RDWR')
         self.assertEqual(call.result, "3</home/file>")
 
-    def test_a_program_of_another_name_is_wrong(self):
-        calls = read(self.HARMLESS.splitlines()[1:])
-        self.assertEqual(len(offences(calls, "/opt/another", self.PEERS)), 1)
+    def test_starting_another_program_is_a_violation(self):
+        calls = parse_trace(self.ALLOWED.splitlines()[1:])
+        self.assertEqual(len(find_violations(calls, "/opt/another", self.PEERS)), 1)
 
-    def test_what_is_not_understood_is_not_passed_over(self):
+    def test_unknown_lines_are_errors(self):
         for line in ("1 something else", "1 <... openat resumed>) = 3", "strace: whatever"):
             with self.subTest(line), self.assertRaises(AssertionError):
-                read([line])
+                parse_trace([line])
 
 
 if __name__ == "__main__":

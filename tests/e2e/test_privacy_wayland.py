@@ -1,7 +1,10 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The same session as on X11 on Wayland, in a process of its own: AT-SPI stays with one bus."""
+"""The test of test_privacy.py on Wayland.
+
+A file of its own, because AT-SPI connects a process to the first accessibility bus only.
+"""
 
 import os
 import unittest
@@ -17,9 +20,9 @@ class WaylandSession(test_privacy.Session):
 
 class PrivacyOnWayland(test_privacy.Privacy):
     desktop_type, program_type, session_type = WaylandDesktop, WaylandProgram, WaylandSession
-    # Of the drivers that do without a graphics card, the one that keeps a cache of shaders.
+    # Of the drivers that need no graphics card, zink is the one that writes a shader cache.
     variables = {"GALLIUM_DRIVER": "zink", "LIBGL_ALWAYS_SOFTWARE": "1"}
-    # Qt 6.4 starts a graphics driver even though the program draws without one, Qt 6.8 does not.
+    # Qt 6.4 loads a graphics driver although the program draws in software, Qt 6.8 does not.
     libraries = {"libQt6WaylandClient"} | ({"libvulkan_lvp"} if qt_version() < (6, 8) else set())
 
     def peers(self):

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""What the kernel refuses the program, tried from inside of it in every one of its threads."""
+"""The sandbox blocks forbidden operations, which a library attempts in every thread."""
 
 import collections
 import errno
@@ -13,18 +13,22 @@ import shutil
 import tempfile
 import unittest
 
-from desktop import PROGRAM, Desktop, Program, key, qt_version, until
+from desktop import PROGRAM, Desktop, Program, key, qt_version, wait_for
 
 PROBE = os.environ["MORVANE_SANDBOX_PROBE"]
 OLD_KERNEL = os.environ["MORVANE_OLD_KERNEL"]
-UNCONFINED = os.environ["MORVANE_UNSANDBOXED_PROGRAM"]
+UNSANDBOXED = os.environ["MORVANE_UNSANDBOXED_PROGRAM"]
 
-# What anybody may do, whatever machine the tests run on.
-COMMON = {"exec", "ptrace", "internet"}
-FILES = {"create", "write", "append", "rename", "link", "symlink", "mkdir", "rmdir", "mkfifo"}
-SYSTEM = {"exec", "ptrace", "read-memory", "rings", "mark"}
-SOCKETS = {"internet", "internet-6", "internet-disguised"}
-OPEN = {"unix", "netlink", "read", "null", "memory-file"}
+# Operations that every machine allows without a sandbox.
+ALWAYS_ALLOWED = {"exec", "ptrace", "internet"}
+FILE_CHANGES = {
+    *("create", "write", "append", "rename", "link", "symlink", "mkdir", "rmdir", "mkfifo"),
+}
+SYSTEM_CALLS = {"exec", "ptrace", "read-memory", "io-uring", "set-xattr"}
+SOCKETS = {"internet", "internet-6", "internet-64-bit"}
+PERMITTED = {"unix", "netlink", "read", "null", "memory-file"}
+
+NO_ERROR = ""
 
 FONT = pathlib.Path("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")
 
@@ -37,70 +41,78 @@ class Sandbox(unittest.TestCase):
         (cls.desktop.home / "file").write_text("untouched", encoding="utf-8")
         (cls.desktop.home / "folder").mkdir()
 
-    def intrude(self, **options):
-        """The errors of all attempts: of each, by its name, those that it met in the threads."""
+    def run_probe(self, **options):
+        """Runs the program with the probe.
+
+        Returns a dictionary from each attempt to its results, pairs of a thread and an error number
+        (0 for success), and the program's /proc/PID/status.
+        """
         with Program(self.desktop, preload=PROBE, **options) as program:
             program.window()
-            value = until(program.value, "a value")
+            value = wait_for(program.value, "a secret")
             key("ctrl+r")
-            until(lambda: program.value() not in (None, value), "another value")
+            wait_for(lambda: program.value() not in (None, value), "another secret")
             status = pathlib.Path(f"/proc/{program.process.pid}/status").read_text("utf-8")
             key("ctrl+q")
-            ended, text = program.ended()
-        self.assertEqual(ended, 0, text)
+            exit_status, text = program.wait_for_exit()
+        self.assertEqual(exit_status, 0, text)
         lines = text.splitlines()
         self.assertIn("probe done", lines)
         errors = collections.defaultdict(list)
         for thread, attempt, error in re.findall(r"^probe (\S+) (\S+) (-?\d+)$", text, re.M):
             errors[attempt].append((thread, int(error)))
-        self.assertEqual(errors.keys(), FILES | SYSTEM | SOCKETS | OPEN)
-        # The display's and the buses' have started by then.
+        self.assertEqual(errors.keys(), FILE_CHANGES | SYSTEM_CALLS | SOCKETS | PERMITTED)
+        # The main thread and those of the display and of the buses are running at this time.
         self.assertGreaterEqual(len(errors["create"]), 3)
-        self.assertEqual([l for l in lines if not l.startswith("probe ")], [])
+        self.assertEqual([line for line in lines if not line.startswith("probe ")], [])
         return errors, status
 
-    def assert_met(self, expected, attempts, errors):
+    def assert_errors(self, expected, attempts, errors):
+        """Each attempt fails with an expected error, or succeeds if NO_ERROR is expected."""
         for attempt in sorted(attempts):
             with self.subTest(attempt=attempt):
-                met = {errno.errorcode.get(e, str(e)) if e else "" for _, e in errors[attempt]}
-                self.assertLessEqual(met, expected, errors[attempt])
+                names = {
+                    errno.errorcode.get(error, str(error)) if error else NO_ERROR
+                    for _, error in errors[attempt]
+                }
+                self.assertLessEqual(names, expected, errors[attempt])
 
-    def test_every_thread_is_refused_what_stores_or_sends(self):
-        errors, status = self.intrude()
-        self.assert_met({"EACCES", "EXDEV"}, FILES, errors)
-        self.assert_met({"EPERM", "EACCES", "ENOSYS"}, SYSTEM, errors)
-        self.assert_met({"EAFNOSUPPORT"}, SOCKETS, errors)
-        self.assert_met({""}, OPEN, errors)
+    def test_no_thread_can_store_or_send_anything(self):
+        errors, status = self.run_probe()
+        self.assert_errors({"EACCES", "EXDEV"}, FILE_CHANGES, errors)
+        self.assert_errors({"EPERM", "EACCES", "ENOSYS"}, SYSTEM_CALLS, errors)
+        self.assert_errors({"EAFNOSUPPORT"}, SOCKETS, errors)
+        self.assert_errors({NO_ERROR}, PERMITTED, errors)
         self.assertRegex(status, r"(?m)^NoNewPrivs:\s1$")
         self.assertEqual(
             sorted(path.name for path in self.desktop.home.iterdir()), ["file", "folder"]
         )
         self.assertEqual((self.desktop.home / "file").read_text("utf-8"), "untouched")
 
-    def test_without_it_nobody_refuses_anything(self):
-        errors, _ = self.intrude(program=UNCONFINED)
-        self.assert_met({""}, FILES | COMMON | OPEN, errors)
+    def test_without_the_sandbox_every_attempt_succeeds(self):
+        errors, _ = self.run_probe(program=UNSANDBOXED)
+        self.assert_errors({NO_ERROR}, FILE_CHANGES | ALWAYS_ALLOWED | PERMITTED, errors)
 
-    def test_runs_on_a_kernel_that_refuses_nothing(self):
-        errors, _ = self.intrude(under=[OLD_KERNEL, "landlock", "seccomp", "--"])
-        self.assert_met({""}, FILES | COMMON | OPEN, errors)
+    def test_runs_on_a_kernel_without_landlock_and_seccomp(self):
+        errors, _ = self.run_probe(wrapper=[OLD_KERNEL, "landlock", "seccomp", "--"])
+        self.assert_errors({NO_ERROR}, FILE_CHANGES | ALWAYS_ALLOWED | PERMITTED, errors)
 
-    def test_without_landlock_it_sends_nothing(self):
-        errors, _ = self.intrude(under=[OLD_KERNEL, "landlock", "--"])
-        self.assert_met({""}, FILES | OPEN, errors)
-        self.assert_met({"EAFNOSUPPORT"}, SOCKETS, errors)
+    def test_cannot_send_on_a_kernel_without_landlock(self):
+        errors, _ = self.run_probe(wrapper=[OLD_KERNEL, "landlock", "--"])
+        self.assert_errors({NO_ERROR}, FILE_CHANGES | PERMITTED, errors)
+        self.assert_errors({"EAFNOSUPPORT"}, SOCKETS, errors)
 
-    def test_without_seccomp_it_stores_nothing(self):
-        errors, _ = self.intrude(under=[OLD_KERNEL, "seccomp", "--"])
-        self.assert_met({"EACCES", "EXDEV"}, FILES | {"exec"}, errors)
-        self.assert_met({""}, {"ptrace", "internet"} | OPEN, errors)
+    def test_cannot_store_on_a_kernel_without_seccomp(self):
+        errors, _ = self.run_probe(wrapper=[OLD_KERNEL, "seccomp", "--"])
+        self.assert_errors({"EACCES", "EXDEV"}, FILE_CHANGES | {"exec"}, errors)
+        self.assert_errors({NO_ERROR}, {"ptrace", "internet"} | PERMITTED, errors)
 
-    def stored_by_libraries(self, program):
-        """What is stored where a font has not been seen before, and no runtime folder is there."""
-        with tempfile.TemporaryDirectory(prefix="morvane-e2e-") as name:
-            folder = pathlib.Path(name)
-            for place in ("fonts", "temporary"):
-                (folder / place).mkdir()
+    def files_of_libraries(self, program):
+        """The files that libraries create for an uncached font and a missing runtime folder."""
+        with tempfile.TemporaryDirectory(prefix="morvane-e2e-") as path:
+            folder = pathlib.Path(path)
+            for name in ("fonts", "temporary"):
+                (folder / name).mkdir()
             shutil.copy(FONT, folder / "fonts")
             configuration = folder / "fonts.conf"
             configuration.write_text(
@@ -116,18 +128,18 @@ class Sandbox(unittest.TestCase):
             }
             with Program(self.desktop, program=program, variables=variables) as running:
                 running.window()
-                until(running.value, "a value")
+                wait_for(running.value, "a secret")
                 key("ctrl+q")
-                self.assertEqual(running.ended()[0], 0)
+                self.assertEqual(running.wait_for_exit()[0], 0)
             return {str(path.relative_to(folder)) for path in set(folder.rglob("*")) - before}
 
-    def test_libraries_store_nothing_either(self):
+    def test_libraries_cannot_store_anything(self):
         expected = {"cache"}
-        # Qt 6.4 makes a runtime folder where there is none, Qt 6.8 does not.
+        # Qt 6.4 creates a missing runtime folder, Qt 6.8 does not.
         if qt_version() < (6, 8):
             expected.add(f"temporary/runtime-{pwd.getpwuid(os.geteuid()).pw_name}")
-        self.assertLessEqual(expected, self.stored_by_libraries(UNCONFINED))
-        self.assertEqual(self.stored_by_libraries(PROGRAM), set())
+        self.assertLessEqual(expected, self.files_of_libraries(UNSANDBOXED))
+        self.assertEqual(self.files_of_libraries(PROGRAM), set())
 
 
 if __name__ == "__main__":

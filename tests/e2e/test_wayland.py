@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The main window under a Wayland compositor: real window, real pointer, real keys."""
+"""The main window on Wayland, used through a virtual pointer and a virtual keyboard."""
 
 import os
 import pathlib
@@ -10,21 +10,21 @@ import subprocess
 import unittest
 from unittest import mock
 
-from desktop import ARTIFACTS, Desktop, Program, first, output, role_name, until
+from desktop import ARTIFACTS, Desktop, Program, find_first, output, role_name, wait_for
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
 
 PACKAGING = pathlib.Path(__file__).parents[2] / "packaging"
 
 
 def is_password(accessible):
-    # Some controls are named with as many letters.
+    # The role excludes controls whose names have ten letters.
     return role_name(accessible) == "label" and re.fullmatch(
         r"[A-Za-z0-9!@#$%&*+\-=?_~]{10}", accessible.name
     )
 
 
-def colours(picture):
-    return int(output("identify", "-format", "%k", str(picture)))
+def count_colours(image):
+    return int(output("identify", "-format", "%k", str(image)))
 
 
 class Wayland(unittest.TestCase):
@@ -33,11 +33,13 @@ class Wayland(unittest.TestCase):
         cls.desktop = WaylandDesktop()
         cls.addClassCleanup(cls.desktop.close)
 
-    def another(self, program, password):
-        return until(
-            lambda: first(program.accessible(), lambda a: is_password(a) and a.name != password),
+    def wait_for_another_password(self, program, password):
+        wait_for(
+            lambda: find_first(
+                program.accessible(), lambda a: is_password(a) and a.name != password
+            ),
             "another password",
-        ).name
+        )
 
     def test_starts_and_closes_without_a_warning(self):
         with WaylandProgram(self.desktop) as program:
@@ -46,57 +48,57 @@ class Wayland(unittest.TestCase):
             program.find(is_password, "a password of ten characters")
             self.desktop.screenshot("wayland")
             self.desktop.kill(window)
-            self.assertEqual(program.ended(), (0, ""))
+            self.assertEqual(program.wait_for_exit(), (0, ""))
 
     def test_a_dock_finds_the_desktop_entry_by_the_id_of_the_window(self):
         with WaylandProgram(self.desktop) as program:
             entry = PACKAGING / f"{program.window()['app_id']}.desktop"
             self.assertTrue(entry.is_file(), entry)
 
-    def test_a_click_makes_another_password(self):
+    def test_a_click_generates_another_password(self):
         with WaylandProgram(self.desktop) as program:
             program.window()
             password = program.find(is_password, "a password").name
             button = program.find(lambda a: a.name == "Neu erzeugen", "the button")
-            self.desktop.click(*program.place(button))
-            self.another(program, password)
+            self.desktop.click(*program.centre_of(button))
+            self.wait_for_another_password(program, password)
 
-    def test_a_key_makes_another_password(self):
+    def test_a_shortcut_generates_another_password(self):
         with WaylandProgram(self.desktop) as program:
             program.activate()
             password = program.find(is_password, "a password").name
             self.desktop.key("ctrl+r")
-            self.another(program, password)
+            self.wait_for_another_password(program, password)
 
-    def test_shows_at_other_scales(self):
+    def test_draws_at_other_scales(self):
         self.addCleanup(self.desktop.set_scale, 1)
-        self.desktop.move(0, 0)  # off the window
+        self.desktop.move(0, 0)  # away from the window
         with WaylandProgram(self.desktop) as program:
             for factor in (2, 1.5):
                 with self.subTest(factor=factor):
                     self.desktop.set_scale(factor)
                     window = program.window()
-                    picture = until(
-                        lambda: self.picture_with_content(f"wayland-{factor}", window),
+                    screenshot = wait_for(
+                        lambda: self.screenshot_with_content(f"wayland-{factor}", window),
                         "a drawn window",
                     )
                     self.assertEqual(
-                        output("identify", "-format", "%w %h", str(picture)),
+                        output("identify", "-format", "%w %h", str(screenshot)),
                         "{width:.0f} {height:.0f}".format(
                             width=window["rect"]["width"] * factor,
                             height=window["rect"]["height"] * factor,
                         ),
                     )
 
-    def picture_with_content(self, name, window):
-        picture = self.desktop.screenshot(name, window)
-        return picture if colours(picture) > 200 else None
+    def screenshot_with_content(self, name, window):
+        screenshot = self.desktop.screenshot(name, window)
+        return screenshot if count_colours(screenshot) > 200 else None
 
-    def test_says_so_where_there_is_no_compositor(self):
-        nowhere = str(self.desktop.home / "wayland-0")
-        with mock.patch.dict(os.environ, WAYLAND_DISPLAY=nowhere):
+    def test_reports_a_missing_compositor(self):
+        missing_socket = str(self.desktop.home / "wayland-0")
+        with mock.patch.dict(os.environ, WAYLAND_DISPLAY=missing_socket):
             with WaylandProgram(self.desktop) as program:
-                status, errors = program.ended()
+                status, errors = program.wait_for_exit()
         self.assertEqual(status, 1)
         self.assertTrue(
             errors.endswith(
@@ -105,43 +107,44 @@ class Wayland(unittest.TestCase):
             errors,
         )
 
-class SameLook(unittest.TestCase):
-    """Glyphs that are measured for one scale and drawn for another are cut off."""
+
+class SameRendering(unittest.TestCase):
+    """Glyphs are cut off if they are measured at one scale and drawn at another."""
 
     SETTINGS = "540x1180+10+20"
-    """The left panel without the window's edge, at twice its size: it holds no secret."""
+    """The left panel at scale 2 without the window's edge. The panel shows no secret."""
 
-    def test_a_large_scale_looks_as_on_x11(self):
-        ours, theirs = ARTIFACTS / "x11-2.png", ARTIFACTS / "wayland-2-settings.png"
+    def test_scale_2_is_rendered_as_on_x11(self):
+        x11, wayland = ARTIFACTS / "x11-2.png", ARTIFACTS / "wayland-2-settings.png"
         desktop = Desktop()
         try:
             with Program(desktop, variables={"QT_SCALE_FACTOR": "2"}) as program:
-                program.picture(ours)
+                program.save_screenshot(x11)
         finally:
             desktop.close()
 
         desktop = WaylandDesktop()
         self.addCleanup(desktop.close)
         desktop.set_scale(2)
-        desktop.move(0, 0)  # off the window
+        desktop.move(0, 0)  # away from the window
         with WaylandProgram(desktop) as program:
             window = program.window()
-            until(
-                lambda: colours(desktop.screenshot("wayland-2-settings", window)) > 200
-                and self.difference(ours, theirs) == 0,
-                "the picture of X11",
+            wait_for(
+                lambda: count_colours(desktop.screenshot("wayland-2-settings", window)) > 200
+                and self.differing_pixels(x11, wayland) == 0,
+                "the same rendering as on X11",
             )
 
-    def difference(self, *pictures):
-        """How many pixels differ."""
-        answer = subprocess.run(
-            ["compare", "-metric", "AE", "-extract", self.SETTINGS, *map(str, pictures), "null:"],
+    def differing_pixels(self, *images):
+        """The number of pixels of the left panel that differ."""
+        result = subprocess.run(
+            ["compare", "-metric", "AE", "-extract", self.SETTINGS, *map(str, images), "null:"],
             stderr=subprocess.PIPE,
             text=True,
             check=False,
         )
-        # ImageMagick 7 can add the normalised number in brackets.
-        return int(answer.stderr.split()[0])
+        # ImageMagick 7 can write a normalised number in parentheses after the absolute one.
+        return int(result.stderr.split()[0])
 
 
 if __name__ == "__main__":

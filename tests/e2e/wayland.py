@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""A Wayland desktop of its own for the program under test: sway without a screen, and buses."""
+"""A Wayland desktop for the program under test: sway with a headless output, and buses."""
 
 import json
 import os
@@ -11,12 +11,12 @@ import struct
 import subprocess
 import time
 
-from desktop import ARTIFACTS, Desktop, Program, output, role_name, until
+from desktop import ARTIFACTS, Desktop, Program, output, role_name, wait_for
 
 APPLICATION = "de.morvane.Morvane"
 
 WIDTH, HEIGHT = 1280, 900
-"""The output's size in the compositor's coordinates, whatever its scale."""
+"""The output's size in logical pixels, the same at every scale."""
 
 CONFIGURATION = f"""
 xwayland disable
@@ -25,7 +25,7 @@ for_window [app_id="{APPLICATION}"] floating enable
 """
 
 LEFT_BUTTON = 0x110
-"""Linux's code for it."""
+"""BTN_LEFT of linux/input-event-codes.h."""
 
 KEYMAP = b"""
 xkb_keymap {
@@ -37,7 +37,7 @@ xkb_keymap {
 \0"""
 
 MODIFIERS = {"shift": (42, 1), "ctrl": (29, 4), "alt": (56, 8)}
-"""For each its key and its bit."""
+"""For each modifier: its key code and its bit in the modifier mask."""
 
 KEYS = {
     "Escape": 1,
@@ -58,24 +58,24 @@ KEYS = {
     **{letter: 30 + place for place, letter in enumerate("asdfghjkl")},
     **{letter: 44 + place for place, letter in enumerate("yxcvbnm")},
 }
-"""Linux's codes of the keys where they are on a German keyboard."""
+"""Linux key codes, for the layout of a German keyboard."""
 
 
 class WaylandDesktop(Desktop):
-    """Starts everything on creation; `close` ends exactly what was started."""
+    """Starts all processes of the desktop on creation; `close` ends these processes only."""
 
     _input = None
 
     def _start_display(self):
         os.environ["QT_QPA_PLATFORM"] = "wayland"
-        overlook_leaks()
-        self._folder.chmod(0o711)  # the compositor may be another user
+        disable_leak_detection()
+        self._folder.chmod(0o711)  # the compositor can run as another user
         folder = self._folder / "sway"
         folder.mkdir(mode=0o700)
         configuration = folder / "config"
         configuration.write_text(CONFIGURATION, encoding="ascii")
         command = ["sway", "--config", str(configuration)]
-        if os.geteuid() == 0:  # as whom sway refuses to run
+        if os.geteuid() == 0:  # sway refuses to run as root
             for path in (folder, configuration):
                 shutil.chown(path, "nobody", "nogroup")
             command[:0] = ["setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups"]
@@ -91,11 +91,13 @@ class WaylandDesktop(Desktop):
                 "XDG_RUNTIME_DIR": str(folder),
             },
         )
-        os.environ["SWAYSOCK"] = until(lambda: a_socket(folder, "sway-ipc.*"), "sway's socket")
-        os.environ["WAYLAND_DISPLAY"] = until(
-            lambda: a_socket(folder, "wayland-?"), "the compositor's socket"
+        os.environ["SWAYSOCK"] = wait_for(
+            lambda: find_socket(folder, "sway-ipc.*"), "the socket of sway's IPC"
         )
-        until(lambda: self._output()["rect"]["width"] == WIDTH, "an output of that size")
+        os.environ["WAYLAND_DISPLAY"] = wait_for(
+            lambda: find_socket(folder, "wayland-?"), "the compositor's socket"
+        )
+        wait_for(lambda: self._output()["rect"]["width"] == WIDTH, "the output's size")
         self._input = VirtualInput(os.environ["WAYLAND_DISPLAY"])
 
     def close(self):
@@ -118,8 +120,8 @@ class WaylandDesktop(Desktop):
         return found
 
     def view(self, process):
-        """The node of the visible window of `process`."""
-        return until(
+        """The node of the visible window of a process."""
+        return wait_for(
             lambda: next(
                 (node for node in self.views() if node["pid"] == process.pid and node["visible"]),
                 None,
@@ -128,21 +130,21 @@ class WaylandDesktop(Desktop):
         )
 
     def command(self, *words):
-        """Has sway carry out a command."""
+        """Runs a command of sway."""
         subprocess.run(["swaymsg", "--quiet", "--", *words], check=True)
 
     def focus(self, node):
         self.command(f"[con_id={node['id']}]", "focus")
 
     def kill(self, node):
-        """Asks the window to close."""
+        """Sends the window a request to close."""
         self.command(f"[con_id={node['id']}]", "kill")
 
     def set_scale(self, factor):
-        """Changes the output's scale and its pixels alike, so that windows find the same room."""
+        """Changes the output's scale and resolution, so that its logical size stays the same."""
         mode = f"{round(WIDTH * factor)}x{round(HEIGHT * factor)}"
         self.command("output", "*", "mode", "--custom", mode, "scale", str(factor))
-        until(
+        wait_for(
             lambda: self._output()["scale"] == factor and self._output()["rect"]["width"] == WIDTH,
             f"a scale of {factor}",
         )
@@ -153,7 +155,7 @@ class WaylandDesktop(Desktop):
         return json.loads(answer)[0] if answer else {"rect": {"width": 0}}
 
     def move(self, x, y):
-        """Moves the pointer to a place in the compositor's coordinates."""
+        """Moves the pointer to a point in logical pixels."""
         self._input.move(x, y)
 
     def press(self, button=LEFT_BUTTON):
@@ -168,16 +170,16 @@ class WaylandDesktop(Desktop):
         self.release()
 
     def key(self, *chords):
-        """Strikes one key after the other, each like "Tab" or "ctrl+shift+r"."""
+        """Presses keys one after the other, each written like "Tab" or "ctrl+shift+r"."""
         for chord in chords:
-            self._input.strike(*chord.split("+"))
+            self._input.press_key(*chord.split("+"))
 
     def screenshot(self, name, node=None):
-        """A picture of everything, or of a window alone."""
+        """Saves an image of the output or of one window."""
         ARTIFACTS.mkdir(parents=True, exist_ok=True)
         file = ARTIFACTS / f"{name}.png"
-        area = ["-g", "{x},{y} {width}x{height}".format(**node["rect"])] if node else []
-        subprocess.run(["grim", *area, str(file)], check=True)
+        region = ["-g", "{x},{y} {width}x{height}".format(**node["rect"])] if node else []
+        subprocess.run(["grim", *region, str(file)], check=True)
         return file
 
 
@@ -185,22 +187,22 @@ class WaylandProgram(Program):
     """The program under test on a Wayland desktop. Use it in a `with` block, which ends it."""
 
     def window(self):
-        """Sway's node of the window, once it is on the screen."""
+        """Sway's node of the window; waits until the window is visible."""
         return self.desktop.view(self.process)
 
     def activate(self):
-        """Gives the window the keyboard, and returns once the program knows."""
+        """Gives the window the keyboard focus; waits until the program has received the focus."""
         import pyatspi
 
         self.desktop.focus(self.window())
-        # A shortcut that comes earlier finds no active window and is lost.
+        # Qt ignores a shortcut that arrives while no window is active.
         self.find(
             lambda a: role_name(a) == "frame" and a.getState().contains(pyatspi.STATE_ACTIVE),
             "an active window",
         )
 
-    def place(self, accessible):
-        """The middle of an accessible object in the compositor's coordinates."""
+    def centre_of(self, accessible):
+        """The centre of an accessible object in logical pixels of the output."""
         import pyatspi
 
         extents = accessible.queryComponent().getExtents(pyatspi.WINDOW_COORDS)
@@ -211,17 +213,18 @@ class WaylandProgram(Program):
         )
 
     def click(self, name, role=None):
-        self.desktop.click(*self.middle(name, role))
+        self.desktop.click(*self.stable_centre(name, role))
 
     def key(self, *chords):
         self.desktop.key(*chords)
 
 
 class VirtualInput:
-    """A pointer and a keyboard on the compositor's seat, which has none without a screen.
+    """A virtual pointer and a virtual keyboard, because a headless compositor has no input devices.
 
-    Speaks Wayland's wire format itself: nothing that Debian has moves a pointer there. The devices
-    stay for the whole run, since windows lose the focus whenever the last keyboard goes.
+    This class implements Wayland's wire protocol: no package of Debian 12 moves the pointer of a
+    headless compositor. The devices exist for the whole run, because a window loses the focus when
+    the last keyboard is removed.
     """
 
     DISPLAY = 1
@@ -229,24 +232,24 @@ class VirtualInput:
     def __init__(self, address):
         self._socket = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
         self._socket.connect(address)
-        self._last = self.DISPLAY
+        self._last_object = self.DISPLAY
         self._globals = {}
-        self._registry = self._new()
+        self._registry = self._new_object()
         self._request(self.DISPLAY, 1, self._registry)
         self._synchronize()
         seat = self._bind("wl_seat")
         pointers = self._bind("zwlr_virtual_pointer_manager_v1")
         keyboards = self._bind("zwp_virtual_keyboard_manager_v1")
-        self._pointer = self._new()
+        self._pointer = self._new_object()
         self._request(pointers, 0, seat, self._pointer)
-        self._keyboard = self._new()
+        self._keyboard = self._new_object()
         self._request(keyboards, 0, seat, self._keyboard)
         with os.fdopen(os.memfd_create("keymap"), "wb") as keymap:
             keymap.write(KEYMAP)
             keymap.flush()
-            text_of_xkb = 1
+            xkb_v1 = 1  # wl_keyboard.keymap_format
             self._request(
-                self._keyboard, 0, text_of_xkb, len(KEYMAP), descriptor=keymap.fileno()
+                self._keyboard, 0, xkb_v1, len(KEYMAP), descriptor=keymap.fileno()
             )
         self._synchronize()
 
@@ -255,18 +258,18 @@ class VirtualInput:
 
     def move(self, x, y):
         self._request(self._pointer, 1, now(), round(x), round(y), WIDTH, HEIGHT)
-        self._end_of_pointer_event()
+        self._send_pointer_frame()
 
     def button(self, code, pressed):
         self._request(self._pointer, 2, now(), code, int(pressed))
-        self._end_of_pointer_event()
+        self._send_pointer_frame()
 
-    def _end_of_pointer_event(self):
+    def _send_pointer_frame(self):
         self._request(self._pointer, 4)
         self._synchronize()
 
-    def strike(self, *names):
-        """Presses modifiers and one last key, and releases them."""
+    def press_key(self, *names):
+        """Presses and releases the last key while the keys before it, the modifiers, are held."""
         *held, last = names
         bits = 0
         for name in held:
@@ -283,23 +286,23 @@ class VirtualInput:
 
     def _key(self, code, pressed, bits):
         self._request(self._keyboard, 1, now(), code, int(pressed))
-        # The compositor leaves it to the device to say what its keys amount to.
+        # A virtual keyboard sends the state of the modifiers itself.
         self._request(self._keyboard, 2, bits, 0, 0, 0)
 
-    def _new(self):
-        self._last += 1
-        return self._last
+    def _new_object(self):
+        self._last_object += 1
+        return self._last_object
 
     def _bind(self, interface):
         if interface not in self._globals:
             raise AssertionError(f"the compositor does not offer {interface}")
-        bound = self._new()
+        new_object = self._new_object()
         name = interface.encode() + b"\0"
         padded = name + b"\0" * (-len(name) % 4)
         self._request(
-            self._registry, 0, self._globals[interface], len(name), padded, 1, bound
+            self._registry, 0, self._globals[interface], len(name), padded, 1, new_object
         )
-        return bound
+        return new_object
 
     def _request(self, target, opcode, *arguments, descriptor=None):
         body = b"".join(
@@ -313,16 +316,16 @@ class VirtualInput:
             socket.send_fds(self._socket, [message], [descriptor])
 
     def _synchronize(self):
-        """Returns once the compositor has seen to every request."""
-        callback = self._new()
+        """Waits until the compositor has processed every request."""
+        callback = self._new_object()
         self._request(self.DISPLAY, 0, callback)
         while True:
             sender, opcode, body = self._event()
             if sender == callback:
                 return
             if sender == self.DISPLAY and opcode == 0:
-                complaint = body[12:].rstrip(b"\0").decode(errors="replace")
-                raise AssertionError(f"the compositor objects: {complaint}")
+                message = body[12:].rstrip(b"\0").decode(errors="replace")
+                raise AssertionError(f"the compositor reports an error: {message}")
             if sender == self._registry and opcode == 0:
                 name, length = struct.unpack_from("=II", body)
                 self._globals[body[8 : 8 + length - 1].decode()] = name
@@ -336,23 +339,23 @@ class VirtualInput:
         while len(data) < size:
             part = self._socket.recv(size - len(data))
             if not part:
-                raise AssertionError("the compositor has hung up")
+                raise AssertionError("the compositor has closed the connection")
             data += part
         return data
 
 
-def overlook_leaks():
-    """Has the sanitizer build say nothing of leaks."""
-    # Qt keeps what it has bound of Wayland until the end, and the graphics driver that it loads and
-    # unloads leaks as well. Leaks of the program's own show on X11.
+def disable_leak_detection():
+    """Turns LeakSanitizer off in sanitizer builds."""
+    # Qt does not release its Wayland objects before the process ends, and the graphics driver that
+    # Qt loads and unloads leaks memory. The tests on X11 find the leaks of the program itself.
     os.environ["ASAN_OPTIONS"] = ":".join([os.environ.get("ASAN_OPTIONS", ""), "detect_leaks=0"])
 
 
 def now():
-    """Milliseconds, as the input devices stamp their events."""
+    """The time stamp of an input event, in milliseconds."""
     return time.monotonic_ns() // 1_000_000 & 0xFFFFFFFF
 
 
-def a_socket(folder, pattern):
-    """The path of a socket in `folder`, once there is one."""
+def find_socket(folder, pattern):
+    """The path of a socket in a folder, or None."""
     return next((str(path) for path in folder.glob(pattern) if path.is_socket()), None)
