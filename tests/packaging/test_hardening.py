@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The protections that the compiler and the linker put into the program."""
+"""The compiler's and the linker's protections are present in the program."""
 
 import os
 import platform
@@ -12,13 +12,14 @@ import unittest
 PROGRAM = os.environ["MORVANE_PROGRAM"]
 
 
-def told_by(*command):
+def inspect(*command):
+    """The output of a command that takes the program's file as its last argument."""
     return subprocess.run([*command, PROGRAM], check=True, stdout=subprocess.PIPE, text=True).stdout
 
 
-def functions():
-    """Of every function of ours, by its name, the first instruction."""
-    code = told_by("objdump", "--disassemble", "--no-show-raw-insn", "--section=.text")
+def first_instructions():
+    """The first instruction of each function of the program, by the function's name."""
+    code = inspect("objdump", "--disassemble", "--no-show-raw-insn", "--section=.text")
     found = re.findall(r"^[0-9a-f]+ <(\w+)>:\n\s*[0-9a-f]+:\s+(\S+)", code, re.M)
     return {name: first for name, first in found if "SecureGenerator" in name or name == "main"}
 
@@ -26,41 +27,42 @@ def functions():
 class Hardening(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.header = told_by("readelf", "--wide", "--file-header")
-        cls.segments = told_by("readelf", "--wide", "--program-headers")
-        cls.dynamic = told_by("readelf", "--wide", "--dynamic")
-        cls.imports = set(re.findall(r" UND (\w+)", told_by("readelf", "--wide", "--dyn-syms")))
+        cls.header = inspect("readelf", "--wide", "--file-header")
+        cls.segments = inspect("readelf", "--wide", "--program-headers")
+        cls.dynamic = inspect("readelf", "--wide", "--dynamic")
+        cls.imports = set(re.findall(r" UND (\w+)", inspect("readelf", "--wide", "--dyn-syms")))
 
-    def test_its_place_in_memory_is_drawn_anew_at_each_start(self):
+    def test_is_position_independent(self):
         self.assertRegex(self.header, r"Type:\s+DYN \(Position-Independent Executable")
         self.assertRegex(self.dynamic, r"\(FLAGS_1\)\s.*\bPIE\b")
         self.assertNotIn("(TEXTREL)", self.dynamic)
 
-    def test_addresses_of_libraries_are_fixed_before_it_runs(self):
+    def test_relocations_are_read_only(self):
         self.assertIn("GNU_RELRO", self.segments)
         self.assertRegex(self.dynamic, r"\(FLAGS\)\s.*\bBIND_NOW\b")
 
-    def test_no_memory_is_both_written_and_executed(self):
+    def test_no_segment_is_writable_and_executable(self):
         self.assertRegex(self.segments, r"GNU_STACK\s.*\sRW\s")
         self.assertNotRegex(self.segments, r"\sRWE\s")
 
-    def test_the_stack_is_watched(self):
+    def test_uses_stack_protectors(self):
         self.assertIn("__stack_chk_fail", self.imports)
 
-    def test_calls_of_the_c_library_check_sizes(self):
+    def test_uses_fortified_functions(self):
         self.assertTrue({n for n in self.imports if re.fullmatch(r"__\w+_chk", n)}, self.imports)
 
-    def test_jumps_only_land_where_they_may(self):
-        mark = {"x86_64": {"endbr64"}, "aarch64": {"bti", "paciasp"}}[platform.machine()]
-        first = functions()
-        self.assertIn("main", first)
-        self.assertGreater(len(first), 1)
-        self.assertEqual({n: i for n, i in first.items() if i not in mark}, {})
+    def test_functions_begin_with_landing_pads(self):
+        landing_pads = {"x86_64": {"endbr64"}, "aarch64": {"bti", "paciasp"}}[platform.machine()]
+        instructions = first_instructions()
+        self.assertIn("main", instructions)
+        self.assertGreater(len(instructions), 1)
+        unprotected = {n: i for n, i in instructions.items() if i not in landing_pads}
+        self.assertEqual(unprotected, {})
 
-    if platform.machine() == "x86_64":  # which alone has a stack of its own for them
+    if platform.machine() == "x86_64":  # AArch64 has no shadow stack
 
-        def test_returns_go_where_calls_came_from(self):
-            self.assertRegex(told_by("readelf", "--wide", "--notes"), r"Properties:.*\bSHSTK\b")
+        def test_supports_the_shadow_stack(self):
+            self.assertRegex(inspect("readelf", "--wide", "--notes"), r"Properties:.*\bSHSTK\b")
 
 
 if __name__ == "__main__":

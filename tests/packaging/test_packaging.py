@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""What is installed, and what the packages for other systems allow themselves."""
+"""The installed files, the metadata, and the permissions of the Flatpak and of the macOS bundle."""
 
 import configparser
 import os
@@ -28,7 +28,7 @@ def png_size(file):
     with file.open("rb") as stream:
         header = stream.read(24)
     if header[:8] != b"\x89PNG\r\n\x1a\n":
-        raise AssertionError(f"not a PNG picture: {file}")
+        raise AssertionError(f"not a PNG image: {file}")
     return struct.unpack(">II", header[16:])
 
 
@@ -46,7 +46,7 @@ class Installation(unittest.TestCase):
         )
         cls.usr = pathlib.Path(folder) / "usr"
 
-    def test_holds_the_files_of_the_program_and_no_others(self):
+    def test_installs_exactly_these_files(self):
         installed = {
             str(file.relative_to(self.usr)) for file in self.usr.rglob("*") if file.is_file()
         }
@@ -67,7 +67,7 @@ class Installation(unittest.TestCase):
             },
         )
 
-    def test_only_the_program_may_be_run(self):
+    def test_only_the_program_is_executable(self):
         for file in self.usr.rglob("*"):
             if file.is_file():
                 expected = 0o755 if file.parent.name == "bin" else 0o644
@@ -78,10 +78,10 @@ class Installation(unittest.TestCase):
             icon = self.usr / f"share/icons/hicolor/{size}x{size}/apps/{ID}.png"
             self.assertEqual(png_size(icon), (size, size))
 
-    def test_the_manual_pages_are_without_faults(self):
+    def test_the_manual_pages_have_no_warnings(self):
         for page in ("share/man/man1/morvane.1", "share/man/de/man1/morvane.1"):
             with self.subTest(page):
-                shown = subprocess.run(
+                result = subprocess.run(
                     ["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", self.usr / page],
                     env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "MANROFFSEQ": ""},
                     stdout=subprocess.DEVNULL,
@@ -89,9 +89,9 @@ class Installation(unittest.TestCase):
                     text=True,
                     check=True,
                 )
-                self.assertEqual(shown.stderr, "")
+                self.assertEqual(result.stderr, "")
 
-    def test_the_manual_pages_are_of_this_version(self):
+    def test_the_manual_pages_name_this_version(self):
         for page in ("share/man/man1/morvane.1", "share/man/de/man1/morvane.1"):
             text = (self.usr / page).read_text(encoding="utf-8")
             self.assertIn(f'"Morvane {VERSION}"', text)
@@ -106,27 +106,27 @@ class Metadata(unittest.TestCase):
         parser.read(PACKAGING / f"{ID}.desktop", encoding="utf-8")
         self.entry = parser["Desktop Entry"]
 
-    def test_the_desktop_entry_is_the_one_of_the_metainfo(self):
+    def test_the_desktop_entry_matches_the_metainfo(self):
         self.assertEqual(self.metainfo.findtext("id"), ID)
         self.assertEqual(self.metainfo.findtext("launchable"), f"{ID}.desktop")
         self.assertEqual(self.entry["Icon"], ID)
         self.assertEqual(self.entry["Exec"], self.metainfo.findtext("provides/binary"))
 
-    def test_both_say_the_same_in_both_languages(self):
+    def test_both_have_the_same_summaries(self):
         language = "{http://www.w3.org/XML/1998/namespace}lang"
         summaries = {s.get(language): s.text for s in self.metainfo.findall("summary")}
         self.assertEqual(
             summaries, {None: self.entry["Comment"], "de": self.entry["Comment[de]"]}
         )
 
-    def test_every_text_of_the_metainfo_is_german_as_well(self):
+    def test_every_text_of_the_metainfo_has_a_german_translation(self):
         language = "{http://www.w3.org/XML/1998/namespace}lang"
         for name in ("summary", "p", "li", "caption", "keyword"):
             texts = [element.get(language) for element in self.metainfo.iter(name)]
             self.assertGreater(len(texts), 0, name)
             self.assertEqual(texts.count(None), texts.count("de"), name)
 
-    def test_the_newest_release_is_this_version_everywhere(self):
+    def test_the_newest_release_is_this_version_in_every_file(self):
         newest = self.metainfo.find("releases/release")
         self.assertEqual(newest.get("version"), VERSION)
         changes = (SOURCES / "CHANGELOG.md").read_text(encoding="utf-8")
@@ -137,14 +137,14 @@ class Metadata(unittest.TestCase):
 
 
 class Debian(unittest.TestCase):
-    def test_the_modules_listed_for_debian_12_are_the_ones_that_the_build_needs(self):
+    def test_the_modules_listed_for_debian_12_are_the_build_dependencies(self):
         control = (SOURCES / "debian/control").read_text(encoding="utf-8")
-        # Those with a build profile are for tests.
-        needed = re.findall(r"^ +(qml6-module-[\w-]+),$", control, re.MULTILINE)
+        # Lines with a build profile are build dependencies of the tests.
+        expected = re.findall(r"^ +(qml6-module-[\w-]+),$", control, re.MULTILINE)
         rules = (SOURCES / "debian/rules").read_text(encoding="utf-8")
         listed = re.findall(r"qml6-module-[\w-]+", rules)
         self.assertGreater(len(listed), 0)
-        self.assertEqual(listed, needed)
+        self.assertEqual(listed, expected)
 
 
 class Flatpak(unittest.TestCase):
@@ -152,16 +152,16 @@ class Flatpak(unittest.TestCase):
         text = (PACKAGING / f"flatpak/{ID}.yml").read_text(encoding="utf-8")
         self.manifest = yaml.safe_load(text)
 
-    def test_is_of_this_program(self):
+    def test_names_this_program(self):
         self.assertEqual(self.manifest["id"], ID)
         self.assertEqual(self.manifest["command"], "morvane")
         self.assertEqual(self.manifest["runtime"], "org.kde.Platform")
         self.assertEqual(self.manifest["sdk"], "org.kde.Sdk")
 
-    def test_allows_the_display_and_nothing_else(self):
+    def test_permits_the_display_only(self):
         self.assertEqual(
             set(self.manifest["finish-args"]),
-            # X11's shared memory belongs to the display.
+            # X11 clients share memory with the X server.
             {"--socket=wayland", "--socket=fallback-x11", "--share=ipc"},
         )
 
@@ -175,11 +175,11 @@ class Flatpak(unittest.TestCase):
 
 
 class MacBundle(unittest.TestCase):
-    def test_the_entitlements_are_the_sandbox_and_nothing_else(self):
+    def test_the_sandbox_is_the_only_entitlement(self):
         entitlements = plistlib.loads((PACKAGING / "macos/Morvane.entitlements").read_bytes())
         self.assertEqual(entitlements, {"com.apple.security.app-sandbox": True})
 
-    def test_the_bundle_is_described(self):
+    def test_the_bundle_has_this_identity(self):
         text = (PACKAGING / "macos/Info.plist.in").read_text(encoding="utf-8")
         values = {
             "MACOSX_BUNDLE_EXECUTABLE_NAME": "Morvane",
@@ -188,8 +188,8 @@ class MacBundle(unittest.TestCase):
             "MACOSX_BUNDLE_GUI_IDENTIFIER": ID,
             "MACOSX_BUNDLE_SHORT_VERSION_STRING": VERSION,
         }
-        filled = re.sub(r"\$\{(\w+)\}", lambda name: values[name[1]], text)
-        bundle = plistlib.loads(filled.encode())
+        expanded = re.sub(r"\$\{(\w+)\}", lambda match: values[match[1]], text)
+        bundle = plistlib.loads(expanded.encode())
         self.assertEqual(bundle["CFBundleIdentifier"], ID)
         self.assertEqual(bundle["CFBundlePackageType"], "APPL")
         self.assertEqual(bundle["CFBundleShortVersionString"], VERSION)
@@ -197,12 +197,12 @@ class MacBundle(unittest.TestCase):
         self.assertEqual(bundle["CFBundleDevelopmentRegion"], "de")
         self.assertEqual(bundle["NSHumanReadableCopyright"], "© 2026 Morvane-Projekt")
 
-    def test_the_icon_holds_every_size_that_it_can(self):
+    def test_the_icon_contains_every_size(self):
         icns = (BUILD / "packaging/icons/Morvane.icns").read_bytes()
-        kind, length = struct.unpack(">4sI", icns[:8])
-        self.assertEqual((kind, length), (b"icns", len(icns)))
-        # Versions of png2icns choose different kinds, and another order, for the same size.
-        pictures = {
+        file_type, length = struct.unpack(">4sI", icns[:8])
+        self.assertEqual((file_type, length), (b"icns", len(icns)))
+        # Versions of png2icns write different types, in a different order, for the same size.
+        image_types = {
             b"is32": 16,
             b"il32": 32,
             b"ih32": 48,
@@ -211,12 +211,12 @@ class MacBundle(unittest.TestCase):
             b"ic08": 256,
             b"ic09": 512,
         }
-        sizes, place = [], 8
-        while place < length:
-            kind, size = struct.unpack(">4sI", icns[place : place + 8])
-            if kind in pictures:
-                sizes.append(pictures[kind])
-            place += size
+        sizes, offset = [], 8
+        while offset < length:
+            image_type, bytes_of_image = struct.unpack(">4sI", icns[offset : offset + 8])
+            if image_type in image_types:
+                sizes.append(image_types[image_type])
+            offset += bytes_of_image
         self.assertEqual(sorted(sizes), [16, 32, 48, 128, 256, 512])
 
 
