@@ -1,21 +1,22 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""What the program's window costs beside a bare window of Qt Quick, as seen by the X server.
+"""Compares the program's window with a bare Qt Quick window, as the X server sees both.
 
-Both programs run by turns in one sitting, on displays that are alike and have no window manager,
-without a session bus and with one. Nothing in the programs takes part in the measurement:
+Both programs run alternately in one session, on two identical displays without a window manager,
+first without and then with a session bus. The measurement needs no support by the programs:
 
-start-up  From just before the process is started until the X server reports, by its Damage
-          extension, the drawing after which a pixel in the middle of the window no longer is the
-          colour of the root window. The report is taken on arrival, within some tenths of a
-          millisecond.
-at rest   The same until the last drawing of the first second.
-memory    The high-water mark of resident memory, and after a second also what is no file's.
-idle      Context switches of all threads while nothing happens and the window has the keyboard.
-drag      The pointer first goes over the slider slowly, to learn what each value looks like and
-          where it begins, and then pixel by pixel at the pace of a mouse. A value counts as drawn
-          if its number was seen on the screen.
+first frame  The time from just before the start of the process until the first drawing, reported by
+             the X server's DAMAGE extension, after which a pixel in the middle of the window no
+             longer has the colour of the root window. Reports arrive within a few tenths of a
+             millisecond.
+last frame   The same time until the last drawing within one second.
+memory       The peak of resident memory, and after a second also the memory without mapped files.
+idle         The context switches of all threads while the window has the keyboard focus and nothing
+             happens.
+drag         The pointer first moves slowly over the slider, to record the image of each number and
+             the pointer position at which it appears; then it moves pixel by pixel at the speed of
+             a mouse. A number counts as drawn if its image was on the screen.
 """
 
 import argparse
@@ -31,7 +32,8 @@ import tempfile
 import time
 
 try:
-    from Xlib import X, display
+    from Xlib import X
+    from Xlib.display import Display
     from Xlib.ext import damage, xtest
 except ImportError:
     sys.exit("window_bench: cannot measure without the Python module Xlib (python3-xlib)")
@@ -41,31 +43,32 @@ sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "e2e"))
 from servers import Servers, StartError
 
 DEADLINE = 20.0
-"""Seconds after which an awaited event counts as missing."""
+"""Seconds after which a missing event is an error."""
 
 WIDTH, HEIGHT = 1280, 1024
 ROOT_COLOUR = 0xFF00FF
 INSIDE = (430, 305)
-"""A point within either window: both are 860 x 610 or larger and lie in the corner."""
+"""A point inside both windows: they are at least 860 x 610 and lie in the top left corner."""
 
 STARTUP_GOAL = 1.25
 MEMORY_GOAL = 1.2
 
-SETTLING = 3.0
+SETTLING_TIME = 3.0
+"""Seconds between the first frame and the measurement of the idle program."""
 
 ACCENT = bytes((0xFF, 0x7A, 0x00))
-"""The filled part of the slider, in the byte order of the screen."""
+"""The colour of the slider's filled part, in the byte order of the screen."""
 PANEL_WIDTH = 280
 STEPS = 64 - 8
 MOUSE_INTERVAL = 1 / 125
 
 
-class CannotMeasure(Exception):
-    """Says what is missing."""
+class MeasurementError(Exception):
+    """A requirement of the measurement is missing."""
 
 
 class Desktop:
-    """An X server, an empty home and, if wanted, a session bus. Use it in a `with` block."""
+    """An X server, an empty home folder and optionally a session bus. Use it in a `with` block."""
 
     def __init__(self, with_bus):
         self._with_bus = with_bus
@@ -104,56 +107,56 @@ class Desktop:
                 self.environment
             )
 
-        self.display = display.Display(self.environment["DISPLAY"])
+        self.display = Display(self.environment["DISPLAY"])
         if not self.display.has_extension("DAMAGE") or not self.display.has_extension("XTEST"):
-            raise CannotMeasure("the X server lacks the extensions DAMAGE and XTEST")
+            raise MeasurementError("the X server lacks the extension DAMAGE or XTEST")
         self.display.damage_query_version()
         self.root = self.display.screen().root
         self.root.change_attributes(
             background_pixel=ROOT_COLOUR, event_mask=X.SubstructureNotifyMask
         )
         self.root.clear_area()
-        self.point_at(WIDTH - 1, HEIGHT - 1)
+        self.move_pointer(WIDTH - 1, HEIGHT - 1)
         self.root.damage_create(damage.DamageReportRawRectangles)
         self.display.sync()
 
-    def events(self, until):
-        """Yields what the X server reports until then, with the time at which it arrived."""
+    def events(self, deadline):
+        """Yields the X server's events until the deadline, each with the time of its arrival."""
         while True:
             if not self.display.pending_events():
-                left = until - time.monotonic()
-                if left <= 0:
+                remaining = deadline - time.monotonic()
+                if remaining <= 0:
                     return
-                select.select([self.display.fileno()], [], [], left)
+                select.select([self.display.fileno()], [], [], remaining)
             now = time.monotonic()
             for _ in range(self.display.pending_events()):
                 yield now, self.display.next_event()
 
-    def drawings(self, until):
-        """The times of what was drawn until then."""
-        for now, event in self.events(until):
+    def drawings(self, deadline):
+        """Yields the times of drawings until the deadline."""
+        for now, event in self.events(deadline):
             if self.is_drawing(event):
                 yield now
 
     def is_drawing(self, event):
         return event.type == self.display.extension_event.DamageNotify
 
-    def picture(self, x, y, width, height):
-        """The pixels, each of four bytes: blue, green, red and one that means nothing."""
+    def image(self, x, y, width, height):
+        """The pixels of a rectangle, each of four bytes: blue, green, red and an unused one."""
         return bytes(self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data)
 
     def shows_window(self):
-        blue, green, red = self.picture(*INSIDE, 1, 1)[:3]
+        blue, green, red = self.image(*INSIDE, 1, 1)[:3]
         return (red << 16 | green << 8 | blue) != ROOT_COLOUR
 
-    def point_at(self, x, y):
-        """Moves the pointer; returns when it was asked to."""
+    def move_pointer(self, x, y):
+        """Moves the pointer; returns the time of the request."""
         now = time.monotonic()
         xtest.fake_input(self.display, X.MotionNotify, x=x, y=y)
         self.display.flush()
         return now
 
-    def press(self, pressed):
+    def set_button_pressed(self, pressed):
         xtest.fake_input(self.display, X.ButtonPress if pressed else X.ButtonRelease, 1)
         self.display.flush()
 
@@ -175,7 +178,7 @@ class Run:
                 stderr=subprocess.DEVNULL,
             )
         except OSError as error:
-            raise CannotMeasure(f"{program} does not start: {error.strerror}") from error
+            raise MeasurementError(f"{program} does not start: {error.strerror}") from error
 
     def __enter__(self):
         return self
@@ -191,24 +194,27 @@ class Run:
             pass
 
     def first_frame(self):
-        """Waits for it; returns the seconds since the start."""
+        """Waits for the first frame; returns the seconds since the start."""
         for now, event in self._desktop.events(self._started + DEADLINE):
             if event.type == X.MapNotify:
                 self._window = event.window
             if self._desktop.is_drawing(event) and self._desktop.shows_window():
                 return now - self._started
-        raise CannotMeasure(f"no window of {self.program} within {DEADLINE:.0f} s")
+        raise MeasurementError(f"{self.program} has shown no window within {DEADLINE:.0f} s")
 
     def last_drawing(self, seconds):
-        """The last drawing of the coming seconds, in seconds since the start; None if none."""
+        """Waits for some seconds.
+
+        Returns the time of the last drawing within them, in seconds since the start, or None.
+        """
         last = None
         for now in self._desktop.drawings(time.monotonic() + seconds):
             last = now - self._started
         return last
 
-    def take_keyboard(self):
+    def focus_window(self):
         if self._window is None:
-            raise CannotMeasure(f"the window of {self.program} was not reported")
+            raise MeasurementError(f"the X server has reported no window of {self.program}")
         self._window.set_input_focus(X.RevertToParent, X.CurrentTime)
         self._desktop.display.sync()
 
@@ -222,16 +228,16 @@ class Run:
         for line in self._read(file).splitlines():
             if line.startswith(field):
                 return int(line.split()[1])
-        raise CannotMeasure(f"the system does not tell {field} of a process")
+        raise MeasurementError(f"/proc/PID/{file} has no field {field}")
 
     def _read(self, file):
         try:
             return pathlib.Path(f"/proc/{self._process.pid}/{file}").read_text(encoding="utf-8")
         except OSError as error:
-            raise CannotMeasure(f"{self.program} has ended early, or {error}") from error
+            raise MeasurementError(f"{self.program} has ended early, or {error}") from error
 
-    def switches(self):
-        """The context switches of every thread so far, by thread."""
+    def context_switches(self):
+        """The number of context switches so far of every thread, by thread id."""
         counts = {}
         for task in os.listdir(f"/proc/{self._process.pid}/task"):
             with contextlib.suppress(FileNotFoundError):
@@ -242,27 +248,27 @@ class Run:
                     if "voluntary_ctxt_switches:" in line
                 )
         if self._process.poll() is not None:
-            raise CannotMeasure(f"{self.program} has ended early")
+            raise MeasurementError(f"{self.program} has ended early")
         return counts
 
 
-def switched(before, after):
-    """Context switches between two counts. A thread that has ended was awake at least once."""
+def count_context_switches(before, after):
+    """The context switches between two counts. A thread that has ended counts as one switch."""
     ended = len(before.keys() - after.keys())
     return ended + sum(count - before.get(task, 0) for task, count in after.items())
 
 
 FIELDS = (
     "first frame",
-    "picture at rest",
+    "last frame",
     "peak at first frame",
     "peak after 1 s",
-    "no file's after 1 s",
+    "anonymous after 1 s",
 )
 
 
-def one_round(desktop, program):
-    """Starts the program once; returns one number for each of the fields."""
+def measure_round(desktop, program):
+    """Runs the program once; returns one number for each of the fields."""
     with Run(desktop, program) as run:
         first = run.first_frame()
         peak = run.peak_memory()
@@ -276,42 +282,42 @@ def one_round(desktop, program):
         )
 
 
-def measured_rounds(programs, desktops, rounds):
-    """The numbers of every round, one list a program. Who is first changes from round to round."""
+def measure_rounds(programs, desktops, rounds):
+    """The numbers of every round, one list per program. The order alternates between rounds."""
     results = [[] for _ in programs]
     order = list(zip(programs, desktops, results))
     for number in range(rounds + 1):
         for program, desktop, result in order:
-            measured = one_round(desktop, program)
-            # The first round is to warm up.
+            measured = measure_round(desktop, program)
+            # The first round warms up the caches.
             if number:
                 result.append(measured)
         order.reverse()
     return results
 
 
-def measured_idling(programs, desktops, seconds):
-    """Context switches of each program. All idle at the same time, each on its own desktop."""
+def measure_idling(programs, desktops, seconds):
+    """The context switches of each program while all are idle, each on its own desktop."""
     with contextlib.ExitStack() as stack:
         runs = [stack.enter_context(Run(*pair)) for pair in zip(desktops, programs)]
         for run in runs:
             run.first_frame()
-            run.take_keyboard()
-        time.sleep(SETTLING)
-        before = [run.switches() for run in runs]
+            run.focus_window()
+        time.sleep(SETTLING_TIME)
+        before = [run.context_switches() for run in runs]
         time.sleep(seconds)
-        after = [run.switches() for run in runs]
-    return [switched(*counts) for counts in zip(before, after)]
+        after = [run.context_switches() for run in runs]
+    return [count_context_switches(*counts) for counts in zip(before, after)]
 
 
 class Slider:
-    """The slider of the length, found by the colour of its filled part."""
+    """The length slider, found by the colour of its filled part."""
 
     def __init__(self, desktop):
         self._desktop = desktop
         rows = []
         for y in range(HEIGHT):
-            row = desktop.picture(0, y, PANEL_WIDTH, 1)
+            row = desktop.image(0, y, PANEL_WIDTH, 1)
             pixels = [row[4 * x : 4 * x + 3] for x in range(PANEL_WIDTH)]
             if ACCENT in pixels:
                 begin = pixels.index(ACCENT)
@@ -323,86 +329,93 @@ class Slider:
             if rows and y > rows[-1][0]:
                 break
         if not rows or len(rows) > 6:
-            raise CannotMeasure("the slider is not where it was looked for")
+            raise MeasurementError("the slider was not found")
         self.y, self._left, filled = rows[len(rows) // 2]
-        self._knob = filled + 9
+        self._handle = filled + 9
 
-    def number(self):
-        """The part of the screen on which the chosen number stands."""
-        return self._desktop.picture(self._left, self.y - 38, PANEL_WIDTH - self._left, 24)
+    def number_image(self):
+        """The image of the number above the slider."""
+        return self._desktop.image(self._left, self.y - 38, PANEL_WIDTH - self._left, 24)
 
-    def take(self):
-        """Presses the button on the knob and drags it to the left end."""
-        self._desktop.point_at(self._knob, self.y)
-        self._desktop.press(True)
-        self.to_left_end(self._knob)
+    def begin_drag(self):
+        """Presses the mouse button on the handle and drags the handle to the left end."""
+        self._desktop.move_pointer(self._handle, self.y)
+        self._desktop.set_button_pressed(True)
+        self.drag_to_left_end(self._handle)
 
-    def to_left_end(self, begin):
-        for x in range(begin, 0, -1):
-            self._desktop.point_at(x, self.y)
+    def drag_to_left_end(self, start):
+        for x in range(start, 0, -1):
+            self._desktop.move_pointer(x, self.y)
             time.sleep(MOUSE_INTERVAL)
-        self.rest()
+        self.wait_until_drawn()
 
-    def rest(self, quiet=0.3):
-        """Waits until nothing is drawn any more; returns when something was for the last time."""
+    def wait_until_drawn(self, quiet=0.3):
+        """Waits for a time without drawings; returns the time of the last drawing or None."""
         last = None
         end = time.monotonic() + DEADLINE
         while time.monotonic() < end:
-            seen = list(self._desktop.drawings(time.monotonic() + quiet))
-            if not seen:
+            times = list(self._desktop.drawings(time.monotonic() + quiet))
+            if not times:
                 return last
-            last = seen[-1]
-        raise CannotMeasure("the picture does not come to rest")
+            last = times[-1]
+        raise MeasurementError("the window does not stop drawing")
 
-    def learn(self):
-        """Goes over the slider slowly; returns where each number begins, in order."""
-        begins = {self.number(): 0}
+    def record_numbers(self):
+        """Moves slowly over the slider; returns the first pointer position for each number."""
+        positions = {self.number_image(): 0}
         for x in range(PANEL_WIDTH):
-            self._desktop.point_at(x, self.y)
-            self.rest(quiet=0.04)
-            begins.setdefault(self.number(), x)
-            if len(begins) > STEPS:
+            self._desktop.move_pointer(x, self.y)
+            self.wait_until_drawn(quiet=0.04)
+            positions.setdefault(self.number_image(), x)
+            if len(positions) > STEPS:
                 break
-        if len(begins) != STEPS + 1:
-            raise CannotMeasure(f"the slider has {len(begins) - 1} steps, not {STEPS}")
-        return begins
+        if len(positions) != STEPS + 1:
+            raise MeasurementError(f"the slider has {len(positions) - 1} steps, not {STEPS}")
+        return positions
 
-    def drag(self, begins):
-        """From one end to the other like a mouse. Returns the times from the move that called for
-        a number to its first sight, and that from the last move until rest."""
-        moves = sorted(begins.values())
-        moved = {}
-        sights = {}
+    def drag(self, positions):
+        """Drags from one end to the other at the speed of a mouse.
+
+        Returns the time from each move to the first drawing of its number, and the time from the
+        last move to the last drawing.
+        """
+        moves = sorted(positions.values())
+        move_times = {}
+        drawing_times = {}
         last = 0.0
         due = time.monotonic()
         for x in range(moves[1] - 4, moves[-1] + 1):
-            moved[x] = self._desktop.point_at(x, self.y)
+            move_times[x] = self._desktop.move_pointer(x, self.y)
             due += MOUSE_INTERVAL
             for last in self._desktop.drawings(due):
-                sights.setdefault(self.number(), last)
+                drawing_times.setdefault(self.number_image(), last)
         for last in self._desktop.drawings(time.monotonic() + 0.5):
-            sights.setdefault(self.number(), last)
-        last = self.rest() or last
-        lags = [sights[n] - moved[x] for n, x in begins.items() if x in moved and n in sights]
-        return lags, max(0.0, last - moved[moves[-1]])
+            drawing_times.setdefault(self.number_image(), last)
+        last = self.wait_until_drawn() or last
+        delays = [
+            drawing_times[number] - move_times[x]
+            for number, x in positions.items()
+            if x in move_times and number in drawing_times
+        ]
+        return delays, max(0.0, last - move_times[moves[-1]])
 
 
-def measured_drag(desktop, program):
+def measure_drag(desktop, program):
     with Run(desktop, program) as run:
         run.first_frame()
         run.last_drawing(1.0)
         slider = Slider(desktop)
-        slider.take()
-        begins = slider.learn()
-        slider.to_left_end(PANEL_WIDTH)
-        result = slider.drag(begins)
-        desktop.press(False)
-        desktop.point_at(WIDTH - 1, HEIGHT - 1)
+        slider.begin_drag()
+        positions = slider.record_numbers()
+        slider.drag_to_left_end(PANEL_WIDTH)
+        result = slider.drag(positions)
+        desktop.set_button_pressed(False)
+        desktop.move_pointer(WIDTH - 1, HEIGHT - 1)
         return result
 
 
 def print_rounds(program, bare):
-    """The medians over all rounds, beside one another."""
+    """Prints the medians over all rounds in columns."""
     goals = (STARTUP_GOAL, None, MEMORY_GOAL, MEMORY_GOAL, None)
     units = ("ms", "ms", "MiB", "MiB", "MiB")
     print(f"  {'median':<20}  {'program':>12}  {'bare window':>12}  {'ratio':>5}  goal")
@@ -415,12 +428,12 @@ def print_rounds(program, bare):
 
 
 def main():
-    parser = argparse.ArgumentParser(description="measures the program's window beside a bare one")
+    parser = argparse.ArgumentParser(description="compares the program's window with a bare one")
     parser.add_argument("program")
     parser.add_argument("bare")
     parser.add_argument("--rounds", type=int, default=15)
     parser.add_argument("--idle-seconds", type=float, default=30.0)
-    parser.add_argument("--starts-only", action="store_true", help="neither idle nor drag")
+    parser.add_argument("--starts-only", action="store_true", help="do not measure idle and drag")
     options = parser.parse_args()
 
     programs = (options.program, options.bare)
@@ -429,12 +442,12 @@ def main():
             desktops = (first, second)
             title = "With a session bus" if with_bus else "Without a session bus"
             print(f"{title}, {options.rounds} rounds", flush=True)
-            print_rounds(*measured_rounds(programs, desktops, options.rounds))
+            print_rounds(*measure_rounds(programs, desktops, options.rounds))
             if options.starts_only:
                 continue
-            switches = measured_idling(programs, desktops, options.idle_seconds)
+            switches = measure_idling(programs, desktops, options.idle_seconds)
             print(
-                f"  context switches in {options.idle_seconds:.0f} s of idling: "
+                f"  context switches in {options.idle_seconds:.0f} s without input: "
                 f"{switches[0]}, of the bare window {switches[1]}",
                 flush=True,
             )
@@ -442,20 +455,19 @@ def main():
     if options.starts_only:
         return
     with Desktop(False) as desktop:
-        lags, rest = measured_drag(desktop, options.program)
+        delays, last_delay = measure_drag(desktop, options.program)
     print("Dragging the length from 8 to 64, pixel by pixel, 125 moves a second")
-    print(f"  steps seen on the screen: {len(lags)} of {STEPS}", end="")
-    print(", every step was drawn" if len(lags) == STEPS else "")
-    if lags:
+    print(f"  numbers drawn: {len(delays)} of {STEPS}")
+    if delays:
         print(
-            f"  from the move to its number: median {statistics.median(lags) * 1000:.1f} ms, "
-            f"longest {max(lags) * 1000:.1f} ms"
+            "  from a move to the drawing of its number: "
+            f"median {statistics.median(delays) * 1000:.1f} ms, longest {max(delays) * 1000:.1f} ms"
         )
-    print(f"  from the last move until nothing changes any more: {rest * 1000:.1f} ms")
+    print(f"  from the last move to the last drawing: {last_delay * 1000:.1f} ms")
 
 
 if __name__ == "__main__":
     try:
         main()
-    except (CannotMeasure, StartError) as reason:
-        sys.exit(f"window_bench: cannot measure: {reason}")
+    except (MeasurementError, StartError) as error:
+        sys.exit(f"window_bench: cannot measure: {error}")

@@ -3,8 +3,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// The bare window with what no window of the program's look can be without: the control templates,
-// of which there is one button that draws nothing, and a text in each font of the first frame.
+// The bare window plus the minimum for the program's design: a button without a drawing, which loads
+// the control templates, and a text in each font of the first frame.
 Window {
     height: 610
     visible: true

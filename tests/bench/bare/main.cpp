@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// The yardsticks for the program's window: the least that a window of Qt Quick on the same renderer
-// can be, and the least with the control templates and the fonts.
+// Opens a minimal Qt Quick window on the program's renderer, with which the benchmarks compare the
+// program's window. The window is BareWindow.qml or TemplatesWindow.qml.
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
@@ -17,7 +17,7 @@ int main(int argc, char** argv)
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.load(QStringLiteral("qrc:/qt/qml/yardstick/" YARDSTICK "/Main.qml"));
+    engine.load(QStringLiteral("qrc:/qt/qml/minimal/" MINIMAL_WINDOW "/Main.qml"));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
     return QGuiApplication::exec();
