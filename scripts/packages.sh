@@ -2,15 +2,15 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# The Debian packages that the scripts need beyond the build dependencies, which are listed in
-# debian/control alone. Sourced by the other scripts.
+# The Debian packages that the scripts need in addition to the build dependencies in debian/control.
+# Sourced by the other scripts.
 
 declare -A packages
 
-# Nothing beyond debian/control.
+# The build needs only the packages in debian/control.
 packages[build]=
 
-# The xcb platform plugin comes with Qt's libraries, the Wayland one does not.
+# Qt's libraries include the xcb platform plugin, but not the Wayland plugin.
 packages[run]='
     fontconfig
     fonts-dejavu-core
@@ -24,7 +24,7 @@ packages[display]='
     xvfb
 '
 
-# A desktop without a desk, and the tools that look at its windows.
+# Headless desktops, and tools that control and inspect windows.
 packages[e2e]='
     at-spi2-core
     copyq
@@ -53,8 +53,8 @@ packages[bench]='
     xvfb
 '
 
-# Linters and a compiler in versions that Debian 12 and 13 both have. gobjc brings the Objective-C headers of the
-# default compiler.
+# Linters and a compiler in versions that both Debian 12 and 13 provide. gobjc contains the
+# Objective-C headers of the default compiler.
 packages[test]='
     appstream
     clang-19
@@ -79,16 +79,17 @@ packages[package-test]='
     piuparts
 '
 
-# Makes a Debian of another suite to run commands in.
+# mmdebstrap creates the minimal Debian system in which scripts/in-debian runs commands.
 packages[in-debian]='
     mmdebstrap
 '
 
-# Installs what is missing of the named groups; says and does nothing if nothing is missing.
-# The group build stands for the build dependencies in debian/control, those of the package's own
-# tests excluded. The groups test and package-test include all of them.
+# ensure_packages GROUP...
+# Installs the missing packages of these groups. Prints nothing if no package is missing.
+# The group build includes the build dependencies in debian/control except those of tests; the groups
+# test and package-test include all build dependencies.
 ensure_packages() {
-    # On other systems the packages have other names and are up to whoever builds.
+    # On systems without dpkg, users install the dependencies themselves.
     command -v dpkg-query >/dev/null || return 0
 
     case " $* " in
@@ -103,7 +104,7 @@ ensure_packages() {
         wanted+=(${packages[$group]})
     done
     ((${#wanted[@]})) || return 0
-    # dpkg-query complains about packages that it has never heard of: those are missing as well.
+    # dpkg-query writes an error for an unknown package, which also counts as missing.
     mapfile -t missing < <(comm -23 \
         <(printf '%s\n' "${wanted[@]}" | sort -u) \
         <(dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "${wanted[@]}" \
@@ -114,11 +115,12 @@ ensure_packages() {
 
 # ensure_build_dependencies [-PPROFILE]
 ensure_build_dependencies() {
-    # dpkg-checkbuilddeps is itself part of a build dependency, build-essential.
+    # dpkg-checkbuilddeps itself can be missing, because build-essential contains it.
     dpkg-checkbuilddeps "$@" >/dev/null 2>&1 || install_packages build-dep "$@" ./
 }
 
-# install_packages install|build-dep ARGUMENT... runs this command of apt-get.
+# install_packages install|build-dep ARGUMENT...
+# Runs this command of apt-get as root.
 install_packages() {
     local -a as_root=()
     local -a command=(apt-get "$1" --no-install-recommends "${@:2}")
@@ -134,7 +136,7 @@ install_packages() {
     printf 'Installing packages: %s\n' "${command[*]}"
     as_root+=(env DEBIAN_FRONTEND=noninteractive)
     local -a options=(-qq --yes -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0)
-    # A source that cannot be reached need not be the one that has the packages.
+    # If one package source is unreachable, another one may contain the packages.
     "${as_root[@]}" apt-get "${options[@]}" update \
         || printf 'Not all package lists could be refreshed.\n' >&2
     "${as_root[@]}" "${command[@]}" "${options[@]}" >/dev/null

@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# Pictures of a program's window, taken on a display of its own. Sourced by scripts/run.
+# Takes screenshots of a program's window on a virtual display. Sourced by scripts/run and
+# scripts/test-package.
 
-# How long the server, the window and its contents may take, each on a machine that has other work.
+# Seconds after which the display, the window or the window's contents count as missing.
 readonly picture_patience=60
 
 # take_picture PICTURE PROGRAM [ARGUMENT]...
@@ -29,64 +30,68 @@ take_picture() {
     mv "$picture_folder/window.png" "$picture"
 }
 
-# Every process is ended by its own number, the program before the display that it draws on.
+# Ends the processes in picture_processes one after the other, then the display.
 end_picture() {
     local process
     for process in "${picture_processes[@]}"; do
         kill "$process" 2>/dev/null || true
         wait "$process" 2>/dev/null || true
     done
+    if [[ ${display_runner-} ]]; then
+        kill "${display_command:-$display_runner}" 2>/dev/null || true
+        wait "$display_runner" 2>/dev/null || true
+    fi
     rm -rf "$picture_folder"
 }
 
-# The window shows a password, so that nobody else on the machine is let onto its display.
+# Starts a display that only programs with the cookie in XAUTHORITY can use, because its window shows
+# a password.
 start_display() {
-    local cookie display output
-    cookie=$(mcookie)
+    local output
     export XAUTHORITY=$picture_folder/authority
-    xauth -q -f "$XAUTHORITY" add :0 . "$cookie" 2>/dev/null
 
-    # The server writes the number of the free display that it has found.
-    exec {output}< <(exec Xvfb -displayfd 3 -screen 0 1280x900x24 -auth "$XAUTHORITY" \
-        3>&1 >"$picture_folder/display.log" 2>&1)
-    picture_processes=("$!")
-    if ! read -r -t "$picture_patience" -u "$output" display; then
+    # xvfb-run ends the display when this command ends, which prints its process id and waits.
+    # shellcheck disable=SC2016 # for the shell that xvfb-run starts
+    exec {output}< <(exec xvfb-run --auto-servernum --auth-file="$XAUTHORITY" \
+        --error-file="$picture_folder/display.log" --server-args='-screen 0 1280x900x24' \
+        sh -c 'echo "$$ $DISPLAY"; exec sleep infinity' 2>>"$picture_folder/display.log")
+    display_runner=$!
+    if ! read -r -t "$picture_patience" -u "$output" display_command DISPLAY; then
         cat "$picture_folder/display.log" >&2
         fail 'the virtual display did not start'
     fi
     exec {output}<&-
-
-    xauth -q -f "$XAUTHORITY" add ":$display" . "$cookie"
-    export DISPLAY=:$display QT_QPA_PLATFORM=xcb
+    export DISPLAY QT_QPA_PLATFORM=xcb
 }
 
-# Sets $window to the first visible window of the program.
+# Waits for the first visible window of the program and sets $window to its id.
 find_window() {
     local deadline=$((SECONDS + picture_patience))
     until window=$(xdotool search --onlyvisible --pid "$picture_program" 2>/dev/null | head -n 1)
         [[ $window ]]; do
-        await_next_look "$deadline" 'no window was shown'
+        check_and_sleep "$deadline" 'no window was shown'
     done
 }
 
-# Waits until two looks in a row show the same picture of more than one colour, the last of which
-# stays in window.png.
+# Waits until two consecutive screenshots of the window are the same and have more than one colour.
+# The last one is window.png.
 await_contents() {
-    local window=$1 deadline=$((SECONDS + picture_patience)) colours='' before='' now=''
-    until [[ ${colours:-1} != 1 && $now == "$before" ]]; do
-        await_next_look "$deadline" 'the window was not painted'
-        before=$now
+    local window=$1 deadline=$((SECONDS + picture_patience)) colours='' previous='' current=''
+    until [[ ${colours:-1} != 1 && $current == "$previous" ]]; do
+        check_and_sleep "$deadline" 'the window was not painted'
+        previous=$current
         import -silent -window "$window" -strip "$picture_folder/window.png" 2>/dev/null || continue
-        read -r colours now < <(identify -format '%k %#\n' "$picture_folder/window.png")
+        read -r colours current < <(identify -format '%k %#\n' "$picture_folder/window.png")
     done
 }
 
-# await_next_look DEADLINE COMPLAINT
-await_next_look() {
+# check_and_sleep DEADLINE MESSAGE
+# Fails if the program has ended, or with the message after the deadline.
+check_and_sleep() {
     if ! kill -0 "$picture_program" 2>/dev/null; then
         local status=0
         wait "$picture_program" || status=$?
-        fail_with_output "the program ended with status $status before its picture was taken"
+        fail_with_output "the program ended with status $status before the screenshot was taken"
     fi
     ((SECONDS < $1)) || fail_with_output "$2 within $picture_patience seconds"
     sleep 0.05
