@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Compares the program's window with a bare Qt Quick window, as the X server sees both.
+"""Compares the program's window with a bare Qt Quick window, by the X server's reports.
 
 Both programs run alternately in one session, on two identical displays without a window manager,
 first without and then with a session bus. The measurement needs no support by the programs:

@@ -7,8 +7,9 @@ import pathlib
 import re
 import typing
 
-# The system calls that name a file or create a process or a connection, and those that do so unseen
-# by strace. The trace contains no data (-s 0) and the paths of file descriptors (-y).
+# The system calls that name a file, create a process or open a connection, and those through which
+# a program could do so without any of these calls. The trace contains no data (-s 0) and adds the
+# paths to file descriptors (-y).
 TRACE = (
     "%file,socket,socketpair,bind,connect,listen,accept,accept4,sendto,sendmsg,sendmmsg,"
     "clone,clone3,fork,vfork,execve,execveat,io_uring_setup,open_by_handle_at"

@@ -119,7 +119,7 @@ class X11Session(Session):
 
     def formats(self):
         targets = self.run("xclip", "-o", "-selection", "clipboard", "-t", "TARGETS").split()
-        # Without the targets of the ICCCM's protocol and X11's own names for plain text.
+        # X11's protocol targets and its own names for plain text say nothing about the contents.
         return {
             target
             for target in targets

@@ -134,7 +134,7 @@ class ManagedSession(X11Session):
 
 
 class Clipman(ManagedSession):
-    """Records every text, also secrets, and restores the last text when the clipboard is empty."""
+    """Clipman records every text, also secrets, and restores the last one when it is removed."""
 
     command = ("xfce4-clipman",)
 
@@ -163,7 +163,7 @@ class CopyQ(ManagedSession):
 
 
 class SettingsDaemon(ManagedSession):
-    """Reads the clipboard's contents from a program that ends, and keeps offering them."""
+    """Xfce's settings daemon takes over the clipboard's contents from a program that ends."""
 
     command = ("xfsettingsd", "--no-daemon", "--disable-wm-check")
 
@@ -199,7 +199,7 @@ class WestonDesktop(Desktop):
 
 
 class Weston(WaylandSession):
-    """Restores the last text whenever the clipboard is empty."""
+    """Weston restores the last text whenever the clipboard is empty."""
 
     def __init__(self):
         Session.__init__(self, WestonDesktop(), Program)

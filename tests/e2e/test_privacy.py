@@ -14,10 +14,10 @@ from desktop import (
     DEADLINE,
     Desktop,
     Program,
-    showing_objects,
     find_first,
     output,
     role_name,
+    showing_objects,
     wait_for,
 )
 from systemcalls import find_violations, opened_files, parse_trace, trace_command
