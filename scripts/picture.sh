@@ -6,7 +6,7 @@
 # scripts/test-package.
 
 # Seconds after which the display, the window or the window's contents count as missing.
-readonly picture_patience=60
+readonly picture_timeout=60
 
 # take_picture PICTURE PROGRAM [ARGUMENT]...
 take_picture() {
@@ -56,7 +56,7 @@ start_display() {
         --error-file="$picture_folder/display.log" --server-args='-screen 0 1280x900x24' \
         sh -c 'echo "$$ $DISPLAY"; exec sleep infinity' 2>>"$picture_folder/display.log")
     display_runner=$!
-    if ! read -r -t "$picture_patience" -u "$output" display_command DISPLAY; then
+    if ! read -r -t "$picture_timeout" -u "$output" display_command DISPLAY; then
         cat "$picture_folder/display.log" >&2
         fail 'the virtual display did not start'
     fi
@@ -66,7 +66,7 @@ start_display() {
 
 # Waits for the first visible window of the program and sets $window to its id.
 find_window() {
-    local deadline=$((SECONDS + picture_patience))
+    local deadline=$((SECONDS + picture_timeout))
     until window=$(xdotool search --onlyvisible --pid "$picture_program" 2>/dev/null | head -n 1)
         [[ $window ]]; do
         check_and_sleep "$deadline" 'no window was shown'
@@ -76,7 +76,7 @@ find_window() {
 # Waits until two consecutive screenshots of the window are the same and have more than one colour.
 # The last one is window.png.
 await_contents() {
-    local window=$1 deadline=$((SECONDS + picture_patience)) colours='' previous='' current=''
+    local window=$1 deadline=$((SECONDS + picture_timeout)) colours='' previous='' current=''
     until [[ ${colours:-1} != 1 && $current == "$previous" ]]; do
         check_and_sleep "$deadline" 'the window was not painted'
         previous=$current
@@ -93,7 +93,7 @@ check_and_sleep() {
         wait "$picture_program" || status=$?
         fail_with_output "the program ended with status $status before the screenshot was taken"
     fi
-    ((SECONDS < $1)) || fail_with_output "$2 within $picture_patience seconds"
+    ((SECONDS < $1)) || fail_with_output "$2 within $picture_timeout seconds"
     sleep 0.05
 }
 
