@@ -62,6 +62,7 @@ packages[test]='
     clang-tidy-19
     clangd-19
     desktop-file-utils
+    extra-cmake-modules
     gobjc
     icnsutils
     libbenchmark-dev
@@ -70,6 +71,7 @@ packages[test]='
     man-db
     python3-yaml
     qt6-declarative-dev-tools
+    reuse
     shellcheck
 '
 
