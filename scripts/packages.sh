@@ -64,7 +64,6 @@ packages[test]='
     desktop-file-utils
     extra-cmake-modules
     gobjc
-    icnsutils
     libbenchmark-dev
     libclang-rt-19-dev
     libgnustep-gui-dev

@@ -8,7 +8,6 @@ import os
 import pathlib
 import plistlib
 import re
-import struct
 import subprocess
 import tempfile
 import unittest
@@ -21,15 +20,10 @@ BUILD = pathlib.Path(os.environ["MORVANE_BUILD"])
 VERSION = os.environ["MORVANE_VERSION"]
 PACKAGING = SOURCES / "packaging"
 ID = "de.morvane.Morvane"
-SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
-
-
-def png_size(file):
-    with file.open("rb") as stream:
-        header = stream.read(24)
-    if header[:8] != b"\x89PNG\r\n\x1a\n":
-        raise AssertionError(f"not a PNG image: {file}")
-    return struct.unpack(">II", header[16:])
+ICONS = (
+    f"share/icons/hicolor/scalable/apps/{ID}.svg",
+    f"share/icons/hicolor/symbolic/apps/{ID}-symbolic.svg",
+)
 
 
 class Installation(unittest.TestCase):
@@ -58,12 +52,10 @@ class Installation(unittest.TestCase):
                 "share/doc/morvane/CHANGELOG.md",
                 "share/doc/morvane/LICENSE",
                 "share/doc/morvane/README.md",
-                "share/icons/hicolor/scalable/apps/de.morvane.Morvane.svg",
-                "share/icons/hicolor/symbolic/apps/de.morvane.Morvane-symbolic.svg",
+                *ICONS,
                 "share/man/de/man1/morvane.1",
                 "share/man/man1/morvane.1",
                 "share/metainfo/de.morvane.Morvane.metainfo.xml",
-                *(f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in SIZES),
             },
         )
 
@@ -73,10 +65,19 @@ class Installation(unittest.TestCase):
                 expected = 0o755 if file.parent.name == "bin" else 0o644
                 self.assertEqual(file.stat().st_mode & 0o777, expected, file)
 
-    def test_the_icons_have_the_sizes_of_their_folders(self):
-        for size in SIZES:
-            icon = self.usr / f"share/icons/hicolor/{size}x{size}/apps/{ID}.png"
-            self.assertEqual(png_size(icon), (size, size))
+    def test_the_icons_are_square_drawings_without_external_references(self):
+        for name in ICONS:
+            with self.subTest(name):
+                icon = xml.etree.ElementTree.parse(self.usr / name).getroot()
+                self.assertEqual(icon.tag, "{http://www.w3.org/2000/svg}svg")
+                left, top, width, height = map(float, icon.get("viewBox").split())
+                self.assertEqual((left, top), (0, 0))
+                self.assertGreater(width, 0)
+                self.assertEqual(width, height)
+                paths = list(icon.iter("{http://www.w3.org/2000/svg}path"))
+                self.assertGreater(len(paths), 0)
+                values = [value for element in icon.iter() for value in element.attrib.values()]
+                self.assertEqual([v for v in values if re.search(r"url\((?!#)|://", v)], [])
 
     def test_the_manual_pages_have_no_warnings(self):
         for page in ("share/man/man1/morvane.1", "share/man/de/man1/morvane.1"):
@@ -196,28 +197,6 @@ class MacBundle(unittest.TestCase):
         self.assertEqual(bundle["CFBundleExecutable"], "Morvane")
         self.assertEqual(bundle["CFBundleDevelopmentRegion"], "de")
         self.assertEqual(bundle["NSHumanReadableCopyright"], "© 2026 Morvane-Projekt")
-
-    def test_the_icon_contains_every_size(self):
-        icns = (BUILD / "packaging/icons/Morvane.icns").read_bytes()
-        file_type, length = struct.unpack(">4sI", icns[:8])
-        self.assertEqual((file_type, length), (b"icns", len(icns)))
-        # Versions of png2icns write different types, in a different order, for the same size.
-        image_types = {
-            b"is32": 16,
-            b"il32": 32,
-            b"ih32": 48,
-            b"it32": 128,
-            b"ic07": 128,
-            b"ic08": 256,
-            b"ic09": 512,
-        }
-        sizes, offset = [], 8
-        while offset < length:
-            image_type, bytes_of_image = struct.unpack(">4sI", icns[offset : offset + 8])
-            if image_type in image_types:
-                sizes.append(image_types[image_type])
-            offset += bytes_of_image
-        self.assertEqual(sorted(sizes), [16, 32, 48, 128, 256, 512])
 
 
 if __name__ == "__main__":
