@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
-import QtQml
 import QtQuick
+import QtQml.Models
 import Morvane.App
 import Morvane.Views
 import Morvane.Views.Controls

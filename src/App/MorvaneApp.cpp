@@ -104,32 +104,6 @@ void loadFontsOfFirstFrame()
     }
 }
 
-/// The main window, not yet shown; null, with a message on standard error, if it cannot be built.
-std::unique_ptr<QQuickWindow> createMainWindow(QQmlEngine& engine)
-{
-    QQmlComponent component(&engine);
-    component.loadUrl(QStringLiteral("qrc:/qt/qml/Morvane/App/MainWindow.qml"),
-                      QQmlComponent::Asynchronous);
-    // Qt compiles the types on a thread of its own. Meanwhile this thread does what does not depend
-    // on them.
-    hideProcessAfterPortalAnswered();
-    loadFontsOfFirstFrame();
-    if (component.isLoading()) {
-        QEventLoop loop;
-        QObject::connect(&component, &QQmlComponent::statusChanged, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-
-    if (component.isError()) {
-        std::cerr << qPrintable(component.errorString());
-        return nullptr;
-    }
-    return std::unique_ptr<QQuickWindow>(
-        qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
-            {{QStringLiteral("clientSideDecorations"),
-              Platform::WindowChrome::usesClientSideDecorations()}})));
-}
-
 /// For desktops that do not find the icon through the desktop entry.
 QIcon windowIcon()
 {
@@ -144,6 +118,33 @@ QIcon windowIcon()
         icon.addPixmap(pixmap);
     }
     return icon;
+}
+
+/// The main window, not yet shown; null, with a message on standard error, if it cannot be built.
+std::unique_ptr<QQuickWindow> createMainWindow(QQmlEngine& engine)
+{
+    QQmlComponent component(&engine);
+    component.loadUrl(QStringLiteral("qrc:/qt/qml/Morvane/App/MainWindow.qml"),
+                      QQmlComponent::Asynchronous);
+    // Qt compiles the types on a thread of its own. Meanwhile this thread does what does not depend
+    // on them.
+    loadFontsOfFirstFrame();
+    QGuiApplication::setWindowIcon(windowIcon());
+    hideProcessAfterPortalAnswered();
+    if (component.isLoading()) {
+        QEventLoop loop;
+        QObject::connect(&component, &QQmlComponent::statusChanged, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+
+    if (component.isError()) {
+        std::cerr << qPrintable(component.errorString());
+        return nullptr;
+    }
+    return std::unique_ptr<QQuickWindow>(
+        qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
+            {{QStringLiteral("clientSideDecorations"),
+              Platform::WindowChrome::usesClientSideDecorations()}})));
 }
 
 /// Ends the program within 0.3 s. On X11, Qt waits up to 5 s for a clipboard manager to fetch the
@@ -183,7 +184,6 @@ int MorvaneApp::run(int argc, char** argv) const
     disableHintingOnScaledDisplays(application);
     GermanKeyNames keyNames;
     QCoreApplication::installTranslator(&keyNames);
-    QGuiApplication::setWindowIcon(windowIcon());
 
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

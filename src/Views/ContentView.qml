@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
-import QtQml
 import QtQuick
+import QtQml.Models
 import Morvane.ViewModel
 import Morvane.Views.Controls
 
