@@ -7,8 +7,6 @@ import Morvane.Views.Controls
 Window {
     id: root
 
-    readonly property bool hasFocus: activeFocusItem !== null
-
     color: Theme.window
     flags: Qt.Dialog | Qt.CustomizeWindowHint | Qt.WindowTitleHint | Qt.WindowSystemMenuHint | Qt.WindowCloseButtonHint
     height: content.implicitHeight
@@ -26,15 +24,16 @@ Window {
         anchors.fill: parent
     }
 
+    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
     Shortcut {
-        enabled: root.hasFocus
+        enabled: root.activeFocusItem !== null
         sequences: ["Escape", "Ctrl+W"]
 
         onActivated: root.close()
     }
 
     Shortcut {
-        enabled: root.hasFocus
+        enabled: root.activeFocusItem !== null
         sequence: "Ctrl+Q"
 
         onActivated: Qt.quit()

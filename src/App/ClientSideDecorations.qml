@@ -12,7 +12,6 @@ import Morvane.Views.Controls
 Item {
     id: root
 
-    required property bool areShortcutsEnabled
     required property ContentView content
     required property Window window
 
@@ -22,7 +21,6 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        areShortcutsEnabled: root.areShortcutsEnabled
         window: root.window
 
         onMenuToggled: button => root.toggleMenu(button)
@@ -46,7 +44,6 @@ Item {
         active: false
 
         MainMenu {
-            areShortcutsEnabled: root.areShortcutsEnabled
             content: root.content
             parent: root
             window: root.window

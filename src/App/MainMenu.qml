@@ -8,7 +8,8 @@ import Morvane.Views.Controls
 Menu {
     id: root
 
-    required property bool areShortcutsEnabled
+    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
+    readonly property bool areShortcutsEnabled: window.activeFocusItem !== null
     required property ContentView content
     required property Window window
 

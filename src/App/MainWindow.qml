@@ -12,9 +12,6 @@ Window {
 
     // Whether the program draws the title bar and the edges of the window.
     required property bool clientSideDecorations
-    // A window without the keyboard focus has no focus item, `active` is true for it all the same
-    // while its About window has the focus. Since Qt 6.8, shortcuts match there as well.
-    readonly property bool hasFocus: activeFocusItem !== null
 
     color: Theme.surface
     height: minimumHeight
@@ -26,14 +23,12 @@ Window {
         id: content
 
         anchors.fill: parent
-        areShortcutsEnabled: root.hasFocus
         focus: true
         topInset: root.clientSideDecorations ? 0 : 28
     }
 
     ClientSideDecorations {
         anchors.fill: parent
-        areShortcutsEnabled: root.hasFocus
         content: content
         visible: root.clientSideDecorations
         window: root

@@ -8,7 +8,6 @@ import Morvane.Views.Controls
 Item {
     id: root
 
-    required property bool areShortcutsEnabled
     readonly property bool isMaximized: window.visibility === Window.Maximized || window.visibility === Window.FullScreen
     required property Window window
 
@@ -16,6 +15,26 @@ Item {
     signal menuToggled(Item button)
 
     implicitHeight: 40
+
+    component TitleBarButton: Button {
+        id: button
+
+        property color highlightedIcon: Theme.text
+
+        flat: true
+        implicitHeight: 28
+        implicitWidth: 32
+
+        contentItem: Item {
+            Icon {
+                anchors.centerIn: parent
+                color: button.hovered || button.down ? button.highlightedIcon : Theme.secondaryText
+                height: width
+                name: button.icon.name
+                width: 16
+            }
+        }
+    }
 
     function toggleMaximized() {
         if (root.isMaximized)
@@ -89,8 +108,9 @@ Item {
         }
     }
 
+    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
     Shortcut {
-        enabled: root.areShortcutsEnabled
+        enabled: root.window.activeFocusItem !== null
         sequence: "F10"
 
         onActivated: root.menuToggled(menuButton)

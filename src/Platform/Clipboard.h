@@ -16,8 +16,7 @@ namespace Platform::Clipboard {
 void setSecret(const QString& text);
 
 /// Empties the clipboard. Where the desktop does not let a background program empty it, the program
-/// offers empty contents until the user returns to it, and then empties the clipboard, also if the
-/// desktop has restored the secret meanwhile.
+/// offers empty contents until the user returns to it, and then empties the clipboard.
 void clear();
 
 /// A counter that increases with every write through this interface, and when another program

@@ -6,7 +6,6 @@
 
 #include <QByteArray>
 #include <QClipboard>
-#include <QCryptographicHash>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -34,11 +33,6 @@ bool isX11()
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-QByteArray hash(const QString& text)
-{
-    return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
-}
-
 /// Counts the changes of the clipboard. X11 and Wayland have no counter, and
 /// QClipboard::dataChanged is emitted more than once for some changes and also without a change.
 /// The owner of the contents is reliable, so a change is a write through this class, or the loss of
@@ -49,35 +43,30 @@ public:
     explicit CountedClipboard(QObject* parent)
         : QObject(parent)
     {
-        connect(m_clipboard, &QClipboard::dataChanged, this, [this] { handleDataChange(); });
-        m_clearAgainTimer.setSingleShot(true);
-        connect(&m_clearAgainTimer, &QTimer::timeout, this, [this] { clearAgain(); });
+        connect(m_clipboard, &QClipboard::dataChanged, this, &CountedClipboard::handleDataChange);
     }
 
     [[nodiscard]] std::int64_t changeCount() const { return m_changeCount; }
 
     void setSecret(const QString& text)
     {
-        stopWaitingForReturn();
         auto contents = secretContents(text);
-        replaceContents(contents.get());
-        m_secretHash = hash(text);
+        m_contents = contents.get();
+        setState(State::offering);
         m_clipboard->setMimeData(contents.release());
     }
 
     void clear()
     {
-        if (m_contents && !isX11() && !QGuiApplication::focusWindow()) {
-            // Compositors let a window change the clipboard only while it has the keyboard focus,
-            // and some restore a copy of their own once the offered contents are gone. So the
-            // contents remain on offer, but empty.
+        if (m_state == State::offering && !isX11() && !QGuiApplication::focusWindow()) {
+            // Compositors let a program change the clipboard only while it has the keyboard focus,
+            // and some restore a copy of their own once the offer is gone. So the offer remains,
+            // without contents, until the user returns.
             m_contents->clear();
-            m_emptiedContents = m_contents;
-            replaceContents(nullptr);
+            setState(State::emptyOffer);
         } else {
             emptyClipboard();
         }
-        startWaitingForReturn();
     }
 
 protected:
@@ -87,9 +76,9 @@ protected:
         case QEvent::ApplicationActivate:
         case QEvent::KeyPress:
         case QEvent::MouseButtonPress:
-            // The timer runs after Qt has handled the event, because the request to the compositor
-            // carries the event's serial number.
-            m_clearAgainTimer.start();
+            // Qt handles the event first, because the request to the compositor carries the event's
+            // serial number.
+            QTimer::singleShot(0, this, &CountedClipboard::withdrawEmptyOffer);
             break;
         default:
             break;
@@ -98,16 +87,25 @@ protected:
     }
 
 private:
-    void replaceContents(QMimeData* contents)
+    enum class State : std::uint8_t {
+        idle,       ///< The clipboard holds nothing of this class.
+        offering,   ///< The clipboard offers a secret.
+        emptyOffer, ///< The clipboard offers a secret's contents after they were emptied.
+    };
+
+    void setState(State state)
     {
-        m_contents = contents;
-        m_ownsContents = contents != nullptr;
+        m_state = state;
         ++m_changeCount;
+        if (state == State::emptyOffer)
+            QCoreApplication::instance()->installEventFilter(this);
+        else
+            QCoreApplication::instance()->removeEventFilter(this);
     }
 
     void emptyClipboard()
     {
-        replaceContents(nullptr);
+        setState(State::idle);
         if (isX11()) {
             // Clipboard managers restore their copy to a clipboard without an owner.
             m_clipboard->setMimeData(std::make_unique<QMimeData>().release());
@@ -118,52 +116,23 @@ private:
         }
     }
 
+    void withdrawEmptyOffer()
+    {
+        if (m_state == State::emptyOffer)
+            emptyClipboard();
+    }
+
     void handleDataChange()
     {
-        if (m_ownsContents && (!m_contents || m_clipboard->mimeData() != m_contents))
-            replaceContents(nullptr);
-    }
-
-    void startWaitingForReturn()
-    {
-        if (!m_secretHash.isEmpty())
-            QCoreApplication::instance()->installEventFilter(this);
-    }
-
-    void stopWaitingForReturn()
-    {
-        QCoreApplication::instance()->removeEventFilter(this);
-        m_secretHash.clear();
-    }
-
-    void clearAgain()
-    {
-        if (m_secretHash.isEmpty())
-            return;
-        if (isSecretStillThere())
-            emptyClipboard();
-        else
-            stopWaitingForReturn();
-    }
-
-    /// Whether the clipboard still offers the emptied contents, or the secret was restored to it.
-    [[nodiscard]] bool isSecretStillThere() const
-    {
-        if (m_clipboard->ownsClipboard())
-            return m_emptiedContents && m_clipboard->mimeData() == m_emptiedContents;
-        return hash(m_clipboard->text()) == m_secretHash;
+        if (m_state != State::idle && (!m_contents || m_clipboard->mimeData() != m_contents))
+            setState(State::idle);
     }
 
     QClipboard* const m_clipboard = QGuiApplication::clipboard();
+    State m_state = State::idle;
     std::int64_t m_changeCount = 0;
-    /// The contents that this class wrote. Only the address is used.
+    /// The contents that this class wrote last. QClipboard owns them.
     QPointer<QMimeData> m_contents;
-    bool m_ownsContents = false;
-    /// The contents that this class wrote and then emptied while they remained on offer.
-    QPointer<const QMimeData> m_emptiedContents;
-    /// Identifies the secret that was written last, without keeping the secret.
-    QByteArray m_secretHash;
-    QTimer m_clearAgainTimer;
 };
 
 } // namespace

@@ -10,7 +10,6 @@ import Morvane.Views.Controls
 FocusScope {
     id: root
 
-    property bool areShortcutsEnabled: true
     // The text field that had the keyboard focus last, unless the secret had it since.
     property TextField field
     // The smallest size at which everything is readable.
@@ -69,7 +68,6 @@ FocusScope {
         anchors.left: divider.right
         anchors.right: parent.right
         anchors.top: parent.top
-        areShortcutsEnabled: root.areShortcutsEnabled
         model: root.model
         objectName: "resultPanel"
 

@@ -7,7 +7,6 @@ import Morvane.Views.Controls
 Rectangle {
     id: root
 
-    property bool areShortcutsEnabled: true
     required property GeneratorViewModel model
     // The height of the panel with a secret of the greatest height.
     readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.largestHeight + 2 * (root.padding + column.spacing)
@@ -124,15 +123,16 @@ Rectangle {
         }
     }
 
+    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
     Shortcut {
-        enabled: root.areShortcutsEnabled
+        enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+R"
 
         onActivated: root.model.generate()
     }
 
     Shortcut {
-        enabled: root.areShortcutsEnabled
+        enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+Shift+C"
 
         onActivated: root.model.copyToClipboard()

@@ -7,22 +7,10 @@
 #include <QFile>
 #include <QPainter>
 
-void Icon::setName(const QString& name)
+Icon::Icon(QQuickItem* parent)
+    : QQuickPaintedItem(parent)
 {
-    if (name == m_name)
-        return;
-    m_name = name;
-    load();
-    Q_EMIT nameChanged();
-}
-
-void Icon::setColor(const QColor& color)
-{
-    if (color == m_color)
-        return;
-    m_color = color;
-    load();
-    Q_EMIT colorChanged();
+    connect(this, &Icon::changed, this, &Icon::load);
 }
 
 void Icon::load()

@@ -15,24 +15,17 @@ class Icon : public QQuickPaintedItem
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged REQUIRED FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
+    /// The name of a file in `icons`, without its ending. Nothing is drawn while the name is empty.
+    Q_PROPERTY(QString name MEMBER m_name NOTIFY changed REQUIRED FINAL)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed REQUIRED FINAL)
 
 public:
-    using QQuickPaintedItem::QQuickPaintedItem;
-
-    /// The name of a file in `icons`, without its ending. Nothing is drawn while the name is empty.
-    [[nodiscard]] const QString& name() const { return m_name; }
-    void setName(const QString& name);
-
-    [[nodiscard]] const QColor& color() const { return m_color; }
-    void setColor(const QColor& color);
+    explicit Icon(QQuickItem* parent = nullptr);
 
     void paint(QPainter* painter) override;
 
 Q_SIGNALS:
-    void nameChanged();
-    void colorChanged();
+    void changed();
 
 private:
     void load();
