@@ -29,6 +29,7 @@ Item {
     ResizeBorder {
         anchors.fill: parent
         visible: root.window.visibility === Window.Windowed
+        window: root.window
     }
 
     Rectangle {
