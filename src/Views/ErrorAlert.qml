@@ -20,16 +20,13 @@ Dialog {
     contentItem: Column {
         spacing: 10
 
-        Label {
+        PlainText {
             font: Theme.headlineFont
             horizontalAlignment: Text.AlignHCenter
             objectName: "alertTitle"
             text: root.title
             width: root.availableWidth
             wrapMode: Text.Wrap
-
-            // Screen readers read the title of the dialog itself.
-            Accessible.ignored: true
         }
 
         Label {

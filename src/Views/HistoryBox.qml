@@ -57,7 +57,7 @@ Rectangle {
 
                 onClicked: root.chosen(secret)
 
-                contentItem: Label {
+                contentItem: PlainText {
                     color: Theme.secondaryText
                     elide: Text.ElideRight
                     font: row.font
@@ -65,8 +65,6 @@ Rectangle {
                     objectName: "secret"
                     rightPadding: arrow.width + 8
                     text: row.secret
-
-                    Accessible.ignored: true
                 }
 
                 Icon {

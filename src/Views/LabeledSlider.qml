@@ -21,21 +21,17 @@ Column {
         height: title.implicitHeight
         width: parent.width
 
-        Label {
+        PlainText {
             id: title
 
             text: root.name
-
-            Accessible.ignored: true
         }
 
-        Label {
+        PlainText {
             anchors.right: parent.right
             color: Theme.secondaryText
             objectName: "number"
             text: root.value
-
-            Accessible.ignored: true
         }
     }
 

@@ -34,12 +34,10 @@ Column {
         spacing: 6
         width: parent.width
 
-        Label {
+        PlainText {
             font: Theme.calloutFont
             objectName: "separatorTitle"
             text: "Trennzeichen"
-
-            Accessible.ignored: true
         }
 
         TextField {

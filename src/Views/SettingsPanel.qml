@@ -52,13 +52,11 @@ Rectangle {
             spacing: 10
             width: parent.width
 
-            Label {
+            PlainText {
                 id: modeTitle
 
                 anchors.verticalCenter: parent.verticalCenter
                 text: "Art"
-
-                Accessible.ignored: true
             }
 
             SegmentedControl {

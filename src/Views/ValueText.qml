@@ -46,7 +46,7 @@ FocusScope {
 
     // Finds the size at which the secret fits, because a TextEdit has no `fontSizeMode`. The line
     // height is fixed, so that three lines fit at every size.
-    Label {
+    PlainText {
         id: fitting
 
         font: root.fullFont
@@ -59,8 +59,6 @@ FocusScope {
         visible: false
         width: root.width
         wrapMode: Text.Wrap
-
-        Accessible.ignored: true
     }
 
     TextEdit {
@@ -99,7 +97,7 @@ FocusScope {
         editor: editor
     }
 
-    Label {
+    PlainText {
         anchors.fill: parent
         elide: Text.ElideRight
         font: editor.font
@@ -109,8 +107,6 @@ FocusScope {
         text: root.truncated ? root.text : ""
         visible: root.truncated
         wrapMode: Text.Wrap
-
-        Accessible.ignored: true
     }
 
     FocusRing {

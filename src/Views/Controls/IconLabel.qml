@@ -41,14 +41,12 @@ Item {
             width: Math.round(root.font.pixelSize * 1.25)
         }
 
-        Label {
+        PlainText {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
             color: root.color
             font: root.font
-
-            Accessible.ignored: true
         }
     }
 }

@@ -2,12 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 
-// Plain text in the body font. Screen readers read it unless `Accessible.ignored` is set.
-Text {
-    color: Theme.text
-    font: Theme.bodyFont
-    textFormat: Text.PlainText
-
+// Text without markup that screen readers read.
+PlainText {
     Accessible.name: text
     Accessible.role: Accessible.StaticText
 }

@@ -40,16 +40,14 @@ T.MenuItem {
         color: control.highlighted ? Theme.accentFill : "transparent"
         radius: Theme.rowRadius
     }
-    contentItem: Label {
+    contentItem: PlainText {
         color: control.highlighted ? Theme.accentText : Theme.text
         font: control.font
         opacity: control.enabled ? 1 : Theme.disabledOpacity
         text: control.text
-
-        Accessible.ignored: true
     }
 
-    Label {
+    PlainText {
         id: keys
 
         anchors.right: parent.right
@@ -59,8 +57,6 @@ T.MenuItem {
         font: control.font
         opacity: control.enabled ? 1 : Theme.disabledOpacity
         text: shortcutName.nativeText
-
-        Accessible.ignored: true
     }
 
     // Only names the keys: while the menu is closed, the shortcut of an action matches, this one not.

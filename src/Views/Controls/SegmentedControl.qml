@@ -29,14 +29,12 @@ FocusScope {
     }
 
     // As wide as the widest choice, in the weight of the selected one.
-    Label {
+    PlainText {
         id: widest
 
         font: metrics.font
         text: Array.from(control.choices).join("\n")
         visible: false
-
-        Accessible.ignored: true
     }
 
     Rectangle {
@@ -101,13 +99,11 @@ FocusScope {
                         visible: segment.visualFocus
                     }
                 }
-                contentItem: Label {
+                contentItem: PlainText {
                     font: segment.font
                     horizontalAlignment: Text.AlignHCenter
                     text: segment.text
                     verticalAlignment: Text.AlignVCenter
-
-                    Accessible.ignored: true
                 }
 
                 Accessible.checkable: true

@@ -14,14 +14,12 @@ T.Switch {
     spacing: 8
     width: parent?.width ?? implicitWidth
 
-    contentItem: Label {
+    contentItem: PlainText {
         font: control.font
         rightPadding: control.spacing + control.implicitIndicatorWidth
         text: control.text
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
-
-        Accessible.ignored: true
     }
     indicator: Rectangle {
         anchors.right: control.right

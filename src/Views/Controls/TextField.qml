@@ -28,15 +28,13 @@ T.TextField {
         color: Theme.controlFill
         radius: Theme.controlRadius
 
-        Label {
+        PlainText {
             color: Theme.secondaryText
             font: control.font
             leftPadding: control.leftPadding
             text: control.placeholderText
             topPadding: control.topPadding
             visible: control.length === 0
-
-            Accessible.ignored: true
         }
     }
 }
