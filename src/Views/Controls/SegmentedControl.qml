@@ -15,24 +15,18 @@ FocusScope {
 
     signal chosen(int index)
 
-    implicitHeight: Math.ceil(metrics.height) + 10
+    implicitHeight: Math.ceil(widest.implicitHeight / choices.length) + 10
     implicitWidth: choices.length * (Math.ceil(widest.implicitWidth) + 12) + 4
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.name: control.name
     Accessible.role: Accessible.Grouping
 
-    FontMetrics {
-        id: metrics
-
-        font: Theme.headlineFont
-    }
-
     // As wide as the widest choice, in the weight of the selected one.
     PlainText {
         id: widest
 
-        font: metrics.font
+        font: Theme.headlineFont
         text: Array.from(control.choices).join("\n")
         visible: false
     }
