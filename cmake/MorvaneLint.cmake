@@ -9,7 +9,7 @@
 # headers and then discards the results.
 #
 # Target analyze: runs clang-tidy on all files for the checks that clangd does not support. These
-# analyse paths or data flow, or need all preprocessor directives.
+# checks analyse paths or data flow, or need all preprocessor directives.
 
 # The version is fixed because each version reports different findings.
 find_program(CLANGD clangd-19 REQUIRED)
@@ -52,8 +52,8 @@ foreach(target IN LISTS targets)
         set(stamp ${PROJECT_BINARY_DIR}/lint/${name}.passed)
         cmake_path(GET stamp PARENT_PATH stamp_folder)
         file(MAKE_DIRECTORY ${stamp_folder})
-        # Depending on the object files repeats the check when an included header changes, and
-        # generates the headers that the check reads.
+        # The dependency on the object files repeats the check when an included header changes,
+        # and generates the headers that the check reads.
         add_custom_command(
             OUTPUT ${stamp}
             COMMAND ${CLANGD} --check=${file} --check-locations=0 --check-completion=0
@@ -70,15 +70,15 @@ add_custom_target(lint DEPENDS ${stamps})
 
 # tests/bench is left out because the analyzer reports a leak in Google Benchmark's registration of
 # benchmarks.
-set(checks_without_clangd clang-analyzer-* bugprone-unchecked-optional-access
+set(checks_unsupported_by_clangd clang-analyzer-* bugprone-unchecked-optional-access
                           bugprone-use-after-move modernize-macro-to-enum)
-list(JOIN checks_without_clangd "," checks_without_clangd)
+list(JOIN checks_unsupported_by_clangd "," checks_unsupported_by_clangd)
 add_custom_target(
     analyze
     COMMAND ${RUN_CLANG_TIDY} -clang-tidy-binary ${CLANG_TIDY} -quiet
-            -checks=-*,${checks_without_clangd} -p ${PROJECT_BINARY_DIR}
+            -checks=-*,${checks_unsupported_by_clangd} -p ${PROJECT_BINARY_DIR}
             "^${PROJECT_SOURCE_DIR}/(src|tests/(e2e|qml|unit))/.*[.]cpp$"
     USES_TERMINAL
     VERBATIM)
-# clang-tidy reads generated headers, which lint builds.
+# clang-tidy reads generated headers, which the target lint generates.
 add_dependencies(analyze lint)

@@ -6,7 +6,7 @@ import Morvane.Views.Controls
 MenuItem {
     id: root
 
-    // The window of this identifier is to be opened, or brought to the front if it is open.
+    // Emitted to open the window `identifier`, or to bring the window to the front if it is open.
     signal openWindow(string identifier)
 
     title: "Über Morvane"

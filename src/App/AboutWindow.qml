@@ -24,7 +24,7 @@ Window {
         anchors.fill: parent
     }
 
-    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
+    // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
         enabled: root.activeFocusItem !== null
         sequences: ["Escape", "Ctrl+W"]

@@ -7,8 +7,7 @@ import Morvane.App
 import Morvane.Views
 import Morvane.Views.Controls
 
-// The title bar, the menu, the outline and the resizable edges of a window that has none from the
-// system.
+// The title bar, the menu, the outline and the resize border that the program draws itself.
 Item {
     id: root
 
@@ -62,13 +61,13 @@ Item {
         target: root.window
     }
 
-    // Shows the menu with its right end below that of `button`, or hides it.
+    // Closes the open menu, or opens the menu below `button` with aligned right edges.
     function toggleMenu(button: Item) {
         menu.active = true;
-        const shown = menu.object as Menu;
-        if (shown.visible)
-            shown.close();
+        const mainMenu = menu.object as Menu;
+        if (mainMenu.visible)
+            mainMenu.close();
         else
-            shown.popup(button, button.width - shown.width, button.height + 4);
+            mainMenu.popup(button, button.width - mainMenu.width, button.height + 4);
     }
 }

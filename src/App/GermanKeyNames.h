@@ -5,8 +5,8 @@
 
 #include <QTranslator>
 
-/// The German names of the modifier keys in the program's shortcuts. Qt's own translations are a
-/// package of their own, and follow the language of the system.
+/// The German name of Ctrl, the only modifier key in displayed shortcuts. Qt's translations are not
+/// used, because they are a separate package and follow the language of the system.
 class GermanKeyNames final : public QTranslator
 {
 public:

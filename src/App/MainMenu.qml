@@ -4,11 +4,11 @@ import QtQuick
 import Morvane.Views
 import Morvane.Views.Controls
 
-// The standard commands of the application, each with its usual shortcut.
+// The menu of the main window: the standard commands of an application, with their usual shortcuts.
 Menu {
     id: root
 
-    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
+    // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     readonly property bool areShortcutsEnabled: window.activeFocusItem !== null
     required property ContentView content
     required property Window window

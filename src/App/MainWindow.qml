@@ -10,7 +10,7 @@ import Morvane.Views.Controls
 Window {
     id: root
 
-    // Whether the program draws the title bar and the edges of the window.
+    // Whether the program, not the system, draws the title bar and the borders of the window.
     required property bool clientSideDecorations
 
     color: Theme.surface
@@ -48,7 +48,7 @@ Window {
         }
     }
 
-    // Opens the window of this identifier, or brings it to the front if it is open.
+    // Opens the window `identifier`, or brings the window to the front if it is open.
     function openWindow(identifier: string) {
         if (identifier !== "about")
             return;

@@ -38,10 +38,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Prints messages; ends the program with a German line when Qt reports that there is no display.
-/// Without this handler, Qt would abort and leave a core dump.
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
-                       const QString& message)
+/// Handles Qt's messages during the connection to the display: prints the message and, if it is
+/// fatal, exits with a German message. Qt's default handler aborts, which leaves a core dump.
+void exitWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
+                        const QString& message)
 {
     std::cerr << qPrintable(message) << '\n';
     if (type == QtFatalMsg) {
@@ -51,8 +51,8 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
     }
 }
 
-/// The software renderer measures glyphs at scale 1. Hinted for that scale, glyphs are wider than
-/// measured at other scales, and a pixel of the last one is cut off.
+/// The software renderer measures glyphs at scale 1. At other scales, hinted glyphs are wider than
+/// measured, and one pixel of the last glyph is cut off.
 void disableHintingOnScaledDisplays(const QGuiApplication& application)
 {
     if (application.devicePixelRatio() == 1)
@@ -62,8 +62,8 @@ void disableHintingOnScaledDisplays(const QGuiApplication& application)
     QGuiApplication::setFont(font);
 }
 
-/// The desktop portal looks at the process that asks for its settings, and does not answer a hidden
-/// process. After the first answer it does not look again.
+/// The desktop portal inspects a process that requests settings, and does not answer a hidden
+/// process. After the first answer, the portal does not inspect the process again.
 void hideProcessAfterPortalAnswered()
 {
     const auto& appearance = Platform::SystemAppearance::instance();
@@ -84,27 +84,27 @@ void loadFontsOfFirstFrame()
         QString family;
     };
     QFont font = QGuiApplication::font();
-    const QString secrets = QStringLiteral("monospace");
+    const QString secretFamily = QStringLiteral("monospace");
     for (const Style& style : {
              Style{13, QFont::Normal, font.family()},
              Style{13, QFont::DemiBold, font.family()},
              Style{12, QFont::Medium, font.family()},
              Style{11, QFont::Normal, font.family()},
              Style{17, QFont::Bold, font.family()},
-             Style{28, QFont::DemiBold, secrets},
-             Style{22, QFont::DemiBold, secrets},
-             Style{12, QFont::Normal, secrets},
+             Style{28, QFont::DemiBold, secretFamily},
+             Style{22, QFont::DemiBold, secretFamily},
+             Style{12, QFont::Normal, secretFamily},
          }) {
         font.setFamily(style.family);
         font.setPixelSize(qRound(style.pixels * Appearance::textScale()));
         font.setWeight(style.weight);
         QFontMetricsF(font).height();
-        // The thread that compiles QML types waits for some work of this thread.
+        // The thread that compiles the QML types posts calls to this thread and waits for them.
         QCoreApplication::sendPostedEvents();
     }
 }
 
-/// For desktops that do not find the icon through the desktop entry.
+/// The window icon, for desktops that do not find the program's icon through the desktop entry.
 QIcon windowIcon()
 {
     QSvgRenderer drawing(
@@ -147,9 +147,9 @@ std::unique_ptr<QQuickWindow> createMainWindow(QQmlEngine& engine)
               Platform::WindowChrome::usesClientSideDecorations()}})));
 }
 
-/// Ends the program within 0.3 s. On X11, Qt waits up to 5 s for a clipboard manager to fetch the
-/// copied text, and some managers never do.
-void endSoon(int status)
+/// Limits the duration of the shutdown to 0.3 s. On X11, Qt waits up to 5 s for a clipboard manager
+/// to fetch the copied text, and some clipboard managers never fetch it.
+void limitShutdown(int status)
 {
     std::thread([status] {
         std::this_thread::sleep_for(300ms);
@@ -162,7 +162,8 @@ void endSoon(int status)
 int MorvaneApp::run(int argc, char** argv) const
 {
     Platform::ProcessMemory::keepFromDumps();
-    // Binds this thread and the threads that it starts, so the display is reached afterwards.
+    // Restricts this thread and the threads that it starts later. The connection to the display
+    // starts threads, so the restriction comes first.
     Platform::Sandbox::restrictFilesystem();
 
     QCoreApplication::setApplicationName(QStringLiteral("morvane"));
@@ -170,16 +171,18 @@ int MorvaneApp::run(int argc, char** argv) const
     QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("de.morvane.Morvane"));
 
-    // Faster to the first frame and smaller than OpenGL, which also writes shader caches.
+    // The software renderer draws the first frame earlier and takes less memory than OpenGL, which
+    // also writes shader caches.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    // On Wayland, Qt 6.4 starts a graphics driver all the same, which creates a cache folder.
+    // On Wayland, Qt 6.4 starts a graphics driver even for the software renderer, and the driver
+    // creates a cache folder.
     qputenv("MESA_SHADER_CACHE_DISABLE", "true");
 
-    const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);
+    const QtMessageHandler handler = qInstallMessageHandler(exitWithoutDisplay);
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(handler);
-    // The display may be on another machine, so the filter follows the connection to the display.
-    // The first secret is drawn later.
+    // The filter refuses the connection to a display on another machine, so the filter is installed
+    // after the connection, but before the first secret is generated.
     Platform::Sandbox::installSyscallFilter();
     disableHintingOnScaledDisplays(application);
     GermanKeyNames keyNames;
@@ -198,6 +201,6 @@ int MorvaneApp::run(int argc, char** argv) const
     });
     window->show();
     const int status = QGuiApplication::exec();
-    endSoon(status);
+    limitShutdown(status);
     return status;
 }

@@ -3,11 +3,12 @@
 
 #pragma once
 
-/// The application: the main window and the event loop behind it.
+/// The application with its windows and event loop.
 class MorvaneApp final
 {
 public:
-    /// Opens the main window and returns when the application has ended, with its exit status:
-    /// 0, or 1 with a line on standard error where there is no display to open a window on.
+    /// Opens the main window and runs the event loop. Returns the exit status: 0 after the user has
+    /// quit, or 1 if the main window cannot be built. Without a display, ends the process with exit
+    /// status 1. Either failure prints a message on standard error.
     int run(int argc, char** argv) const;
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 
-// The strips along the edges of a window without a frame, by which the pointer resizes the window.
+// The border of a window with client-side decorations, at which the pointer resizes the window.
 MouseArea {
     id: root
 
@@ -34,12 +34,12 @@ MouseArea {
 
     onPressed: {
         window.startSystemResize(edges);
-        // The window manager grabs the pointer and may not report the release of the button.
+        // Ends the press: the window manager grabs the pointer and may not report the release.
         enabled = false;
         enabled = true;
     }
 
-    // A corner is longer than the edges are broad.
+    // Edges are 5 pixels wide, and corners 10 pixels, because smaller corners are hard to hit.
     function edgesAt(x: real, y: real): int {
         const vertical = distance => y < distance ? Qt.TopEdge : y >= height - distance ? Qt.BottomEdge : 0;
         const horizontal = distance => x < distance ? Qt.LeftEdge : x >= width - distance ? Qt.RightEdge : 0;

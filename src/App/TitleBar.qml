@@ -3,15 +3,15 @@
 import QtQuick
 import Morvane.Views.Controls
 
-// Its empty part moves the window. Its buttons open the menu and minimise, maximise and close the
-// window.
+// A title bar by which the pointer moves the window, with buttons that open the menu and minimise,
+// maximise and close the window.
 Item {
     id: root
 
     readonly property bool isMaximized: window.visibility === Window.Maximized || window.visibility === Window.FullScreen
     required property Window window
 
-    // The menu of `button` is to be opened, or closed if it is open.
+    // Emitted to open the menu below `button`, or to close the menu if it is open.
     signal menuToggled(Item button)
 
     implicitHeight: 40
@@ -19,7 +19,7 @@ Item {
     component TitleBarButton: Button {
         id: button
 
-        property color highlightedIcon: Theme.text
+        property color highlightedIconColor: Theme.text
 
         flat: true
         implicitHeight: 28
@@ -28,7 +28,7 @@ Item {
         contentItem: Item {
             Icon {
                 anchors.centerIn: parent
-                color: button.hovered || button.down ? button.highlightedIcon : Theme.secondaryText
+                color: button.hovered || button.down ? button.highlightedIconColor : Theme.secondaryText
                 height: width
                 name: button.icon.name
                 width: 16
@@ -53,7 +53,7 @@ Item {
             if (Math.hypot(mouse.x - pressedAt.x, mouse.y - pressedAt.y) < Application.styleHints.startDragDistance)
                 return;
             root.window.startSystemMove();
-            // The window manager grabs the pointer and may not report the release of the button.
+            // Ends the press: the window manager grabs the pointer and may not report the release.
             enabled = false;
             enabled = true;
         }
@@ -97,7 +97,7 @@ Item {
 
         TitleBarButton {
             focusPolicy: Qt.NoFocus
-            highlightedIcon: Theme.accentText
+            highlightedIconColor: Theme.accentText
             hoveredFill: Theme.closeHovered
             icon.name: "window.close"
             objectName: "closeButton"
@@ -108,7 +108,7 @@ Item {
         }
     }
 
-    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
+    // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
         enabled: root.window.activeFocusItem !== null
         sequence: "F10"

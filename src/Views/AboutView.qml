@@ -3,7 +3,7 @@
 import QtQuick
 import Morvane.Views.Controls
 
-// What the program is, its privacy promise and its maker.
+// The content of the About window: the name, version, privacy statement and maker of the program.
 Rectangle {
     color: Theme.window
     implicitHeight: Theme.scaled(390)

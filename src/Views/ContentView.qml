@@ -10,15 +10,16 @@ import Morvane.Views.Controls
 FocusScope {
     id: root
 
-    // The text field that had the keyboard focus last, unless the secret had it since.
+    // The text field that last had keyboard focus; null if the secret has had keyboard focus since
+    // then.
     property TextField field
-    // The smallest size at which everything is readable.
+    // The smallest size at which no text is cut off.
     readonly property real minimumHeight: Math.max(610, Math.ceil(settingsPanel.implicitHeight), Math.ceil(resultPanel.neededHeight))
     readonly property real minimumWidth: Math.max(760, Math.ceil(settingsPanel.width + divider.width + resultPanel.neededWidth))
     readonly property GeneratorViewModel model: GeneratorViewModel {
     }
     readonly property string selectedText: field ? field.selectedText : value.selectedText
-    // The height of the part of the window's title bar that covers the settings.
+    // The height by which the system's title bar covers the settings panel.
     property real topInset: 0
     readonly property alias value: resultPanel.value
 

@@ -3,7 +3,7 @@
 import QtQuick
 import Morvane.Views.Controls
 
-// A modal alert with one button. Return, Space, Escape and the button close it.
+// A modal alert with one button. Return, Space, Escape and the button close the alert.
 Dialog {
     id: root
 

@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Morvane.Views.Controls
 
-// The newest secrets of the run. A click on a row takes its secret back into the display.
+// The newest secrets of this run of the program. A click on a row displays the secret of that row.
 Rectangle {
     id: root
 
@@ -38,13 +38,13 @@ Rectangle {
                 id: row
 
                 required property int index
-                // Not the button's text, in which "&" makes the next character a shortcut.
+                // Not the `text` of the button, in which "&" makes the next character a shortcut.
                 readonly property string secret: root.history[index] ?? ""
 
                 flat: true
                 font: Theme.rowFont
                 horizontalPadding: 0
-                // Wider than the row, so that its text is aligned with the heading.
+                // The background is wider than the row, to align the text with the heading.
                 leftInset: -6
                 objectName: "historyRow" + index
                 radius: Theme.rowRadius

@@ -3,7 +3,7 @@
 import QtQuick
 import Morvane.Views.Controls
 
-// A slider for a whole number, under its name and its value.
+// A slider for a whole number, below a line with the name and the value of the number.
 Column {
     id: root
 
@@ -45,8 +45,8 @@ Column {
         Accessible.name: root.name
 
         onEndRequested: end => root.chosen(end)
-        // `moved` is not emitted when a screen reader sets the value. A value that the slider has
-        // only clamped to its range is not a choice of the user.
+        // Not `onMoved`, because `moved` is not emitted when a screen reader sets the value. A
+        // value that results from clamping `root.value` to the range is not a choice of the user.
         onValueChanged: {
             if (value !== Math.min(Math.max(root.value, from), to))
                 root.chosen(Math.trunc(value));

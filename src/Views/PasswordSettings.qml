@@ -7,7 +7,7 @@ import Morvane.Views.Controls
 Column {
     id: root
 
-    // Not `required`: a Repeater sets required properties of this name to its own model.
+    // Not `required`, because a Repeater sets a required property named `model` to its own model.
     property GeneratorViewModel model
 
     LabeledSlider {

@@ -8,9 +8,9 @@ Rectangle {
     id: root
 
     required property GeneratorViewModel model
-    // The height of the panel with a secret of the greatest height.
-    readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.largestHeight + 2 * (root.padding + column.spacing)
-    // The longest secrets fit into this width at the default text size and at larger ones.
+    // The height that the panel needs for a long secret on three lines.
+    readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.longSecretHeight + 2 * (root.padding + column.spacing)
+    // The width that the panel needs for the longest secret, at the default text size and above.
     readonly property real neededWidth: Math.max(buttons.implicitWidth, rating.implicitWidth, Theme.scaled(355) + 2 * root.valuePadding) + 2 * root.padding
     readonly property real padding: 30
     readonly property alias value: value
@@ -123,7 +123,7 @@ Rectangle {
         }
     }
 
-    // Since Qt 6.8, a shortcut also matches while another window of the program has the focus.
+    // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
         enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+R"

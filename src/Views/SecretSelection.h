@@ -11,8 +11,8 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Treats the selection in `editor`, a read-only `TextEdit`, as a secret: copied, it carries the
-/// secret's mark, and is plain text only. Qt's own copy is styled text as well, without the mark.
+/// Copies the selection of `editor`, a read-only `TextEdit`, as plain text that is marked as a
+/// secret. Qt's own copy function also copies styled text, and sets no mark.
 class SecretSelection : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ class SecretSelection : public QObject
 public:
     using QObject::QObject;
 
-    /// Set once; `editor` outlives this object.
+    /// Called once. `editor` outlives this object.
     void setEditor(QQuickItem* editor)
     {
         m_editor = editor;
@@ -43,11 +43,12 @@ protected:
     {
         switch (event->type()) {
         case QEvent::ShortcutOverride:
-            // A TextEdit claims shortcuts that it has no use for; the window needs them.
+            // A TextEdit accepts shortcuts that a read-only text does not use. The window does not
+            // receive accepted shortcuts.
             event->ignore();
             return true;
         case QEvent::KeyPress:
-            // NOLINTNEXTLINE(*-static-cast-downcast): the event's type tells its class
+            // NOLINTNEXTLINE(*-static-cast-downcast): the type of the event determines its class
             if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
                 break;
             copy();

@@ -10,7 +10,7 @@ Rectangle {
 
     required property GeneratorViewModel model
     readonly property real padding: 24
-    // The height of the part of the window's title bar that covers the panel.
+    // The height by which the system's title bar covers the panel.
     required property real topInset
 
     signal fieldFocused(TextField field)
@@ -72,8 +72,9 @@ Rectangle {
             }
         }
 
-        // Each repeater builds the settings of its mode once, or not at all. A Loader of Qt 6.4 cannot
-        // build components that are bound to the names of this file.
+        // Each Repeater builds the settings of one mode while this mode is selected. Not a Loader,
+        // because the Loader of Qt 6.4 cannot build components of a file with
+        // `ComponentBehavior: Bound`.
         Repeater {
             model: root.model.isPassphrase ? 0 : 1
 

@@ -4,8 +4,8 @@ import QtQuick
 import Morvane.Views
 import Morvane.Views.Controls
 
-// The secret, large, on at most three lines, selectable in whole or in part. A secret that does not
-// fit is drawn smaller, down to 0.65 of its size, and elided only below that.
+// The displayed secret on at most three lines, as selectable text. A secret that does not fit is
+// drawn smaller, down to 0.65 of its full size, and is elided if it does not fit at that size.
 FocusScope {
     id: root
 
@@ -14,8 +14,9 @@ FocusScope {
 
     readonly property alias editor: editor
     readonly property font fullFont: isLong ? Theme.longValueFont : Theme.valueFont
-    // Only long secrets have three lines.
-    readonly property int largestHeight: 3 * Math.ceil(longMetrics.lineSpacing)
+    // The height of a long secret on three lines. A shorter secret on three lines is higher and takes
+    // the additional space from the margins of the panel.
+    readonly property int longSecretHeight: 3 * Math.ceil(longMetrics.lineSpacing)
     readonly property alias selectedText: editor.selectedText
     readonly property alias size: editor.font.pixelSize
     readonly property int smallestSize: Math.ceil(0.65 * fullFont.pixelSize)
@@ -44,8 +45,8 @@ FocusScope {
         font: Theme.longValueFont
     }
 
-    // Finds the size at which the secret fits, because a TextEdit has no `fontSizeMode`. The line
-    // height is fixed, so that three lines fit at every size.
+    // Finds the size at which the secret fits, because a TextEdit has no `fontSizeMode`. The fixed
+    // line height limits the text to three lines at every size.
     PlainText {
         id: fitting
 
@@ -66,7 +67,7 @@ FocusScope {
 
         anchors.fill: parent
         clip: root.truncated
-        // Behind the elided text, only the selection is visible.
+        // A Label shows the elided text, and the editor behind the Label shows only the selection.
         color: root.truncated ? "transparent" : Theme.text
         focus: true
         font: Theme.fontOfSize(root.fullFont.family, fitting.fontInfo.pixelSize, root.fullFont.weight)
@@ -82,7 +83,7 @@ FocusScope {
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
 
-        // Nothing can be typed, and a blinking cursor would wake the machine twice a second.
+        // The text is read-only, and a blinking cursor would wake the processor twice a second.
         cursorDelegate: Item {
         }
 
@@ -103,7 +104,7 @@ FocusScope {
         font: editor.font
         horizontalAlignment: Text.AlignHCenter
         maximumLineCount: 3
-        objectName: "cutValue"
+        objectName: "elidedValue"
         text: root.truncated ? root.text : ""
         visible: root.truncated
         wrapMode: Text.Wrap

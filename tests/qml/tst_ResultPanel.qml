@@ -75,12 +75,12 @@ TestCase {
         content.model.settings.length = data.length;
         const strength = findChild(content, "strength") as IconLabel;
         compare([strength.text, strength.icon], [data.title, data.symbol]);
-        // Red, orange, blue, green.
+        // The hues of red, orange, blue and green.
         fuzzyCompare(strength.color.hsvHue * 360, data.hue, 5);
         compare(shown("entropy"), data.bits);
     }
 
-    function test_anEntropyOfNothingIsShownAsZero() {
+    function test_anEntropyOfZeroIsShownAsZero() {
         for (const name of ["lowercase", "uppercase", "numbers", "symbols"])
             content.model.settings[name] = false;
         content.model.useFromHistory(content.model.generated);
@@ -88,7 +88,7 @@ TestCase {
         compare(shown("strength"), "Schwach");
     }
 
-    function test_valueSizeDependsOnItsLength_data() {
+    function test_fontSizeDependsOnTheLengthOfTheSecret_data() {
         return [{
                 "tag": "38",
                 "length": 38,
@@ -100,14 +100,14 @@ TestCase {
             }];
     }
 
-    function test_valueSizeDependsOnItsLength(data) {
+    function test_fontSizeDependsOnTheLengthOfTheSecret(data) {
         content.width = 1200;
         content.model.settings.length = data.length;
         compare(content.value.size, data.size);
         verify(!content.value.truncated);
     }
 
-    function test_valueSizeCountsPerceivedCharacters() {
+    function test_fontSizeDependsOnGraphemeClusters() {
         content.width = 1200;
         content.model.useFromHistory("🇩🇪".repeat(38));
         compare(content.value.size, 28);
@@ -115,7 +115,7 @@ TestCase {
         compare(content.value.size, 22);
     }
 
-    // On at most three lines, none of which is wider than the text's place.
+    // Verifies that the secret has at most three lines, and that no line is wider than the editor.
     function verifyIsFullyReadable() {
         const value = content.value.editor;
         verify(!content.value.truncated, value.text);
@@ -139,7 +139,7 @@ TestCase {
                 "tag": "wide letters",
                 "separator": "WWW"
             }, {
-                "tag": "blanks around a dot",
+                "tag": "spaces around a dot",
                 "separator": " · "
             }, {
                 "tag": "em dashes",
@@ -158,7 +158,7 @@ TestCase {
         verifyIsFullyReadable();
     }
 
-    function test_aValueThatDoesNotFitShrinksTo65PercentAndIsOnlyThenCutShort() {
+    function test_aSecretThatDoesNotFitShrinksTo65PercentBeforeItIsElided() {
         let length = 64;
         const sizes = [];
         do {
@@ -169,20 +169,20 @@ TestCase {
         compare(sizes[0] <= 22, true);
         for (let i = 1; i < sizes.length; ++i)
             verify(sizes[i] <= sizes[i - 1], sizes);
-        // The next whole pixel above 0.65 of 22.
+        // 0.65 × 22 pixels, rounded up.
         compare(sizes.pop(), 15);
         compare(sizes.pop(), 15);
         verify(waitForRendering(content));
-        verify(content.value.height <= content.value.largestHeight);
-        const cut = findChild(content, "cutValue") as Text;
-        verify(cut.visible && cut.truncated);
-        compare(cut.lineCount, 3);
-        compare(cut.text, content.model.generated);
+        verify(content.value.height <= content.value.longSecretHeight);
+        const elided = findChild(content, "elidedValue") as Text;
+        verify(elided.visible && elided.truncated);
+        compare(elided.lineCount, 3);
+        compare(elided.text, content.model.generated);
         content.model.generate();
-        verify(!cut.visible);
+        verify(!elided.visible);
     }
 
-    function test_theValueIsCentredWith32OnEitherSide() {
+    function test_theSecretIsCentredWithMarginsOf32() {
         const value = content.value;
         const panel = findChild(content, "resultPanel") as Item;
         compare(value.width, panel.width - 60 - 64);
@@ -190,7 +190,7 @@ TestCase {
         compare(value.editor.horizontalAlignment, TextEdit.AlignHCenter);
     }
 
-    function test_theValueIsSelectedAndCopiedByKeyboard() {
+    function test_theSecretIsSelectedAndCopiedByKeyboard() {
         const value = content.value.editor;
         value.forceActiveFocus();
         keySequence("Ctrl+A");
@@ -206,7 +206,7 @@ TestCase {
         compare(system.clipboardText(), content.model.generated.slice(2, 5));
     }
 
-    function test_theValueIsSelectedByPointer() {
+    function test_theSecretIsSelectedByPointer() {
         const value = content.value.editor;
         const left = (value.width - value.contentWidth) / 2;
         mousePress(value, left, value.height / 2);
@@ -216,7 +216,7 @@ TestCase {
         compare(value.selectedText, content.model.generated.slice(0, 5));
     }
 
-    function test_theValueCannotBeEdited() {
+    function test_theSecretCannotBeEdited() {
         const value = content.value.editor;
         value.forceActiveFocus();
         value.selectAll();
@@ -240,7 +240,7 @@ TestCase {
         compare(system.clipboardText(), "(leer)");
     }
 
-    function test_theCopyShortcutWorksFromEverywhere_data() {
+    function test_theShortcutsWorkWithAnyKeyboardFocus_data() {
         return [{
                 "tag": "nothing",
                 "name": ""
@@ -259,7 +259,7 @@ TestCase {
             }];
     }
 
-    function test_theCopyShortcutWorksFromEverywhere(data) {
+    function test_theShortcutsWorkWithAnyKeyboardFocus(data) {
         content.model.settings.mode = 1;
         if (data.name !== "")
             findChild(content, data.name).forceActiveFocus();
@@ -272,7 +272,7 @@ TestCase {
         system.advanceClock(30000);
     }
 
-    function test_anEmptyValueIsNotCopiedButTheButtonStaysEnabled() {
+    function test_anEmptySecretIsNotCopiedButTheButtonStaysEnabled() {
         content.model.useFromHistory("");
         const button = findChild(content, "copy") as Button;
         verify(button.enabled);
@@ -281,7 +281,7 @@ TestCase {
         compare(system.clipboardText(), "(leer)");
     }
 
-    function test_childrenStandInTheirOrderAt22() {
+    function test_childrenAreInOrderWithSpacing22() {
         const column = findChild(content, "resultColumn") as Item;
         const panel = findChild(content, "resultPanel") as Item;
         const children = Array.from(column.children);
@@ -292,19 +292,19 @@ TestCase {
         compare(children[5].objectName, "history");
         for (let i = 1; i < children.length; ++i)
             compare(children[i].y, children[i - 1].y + children[i - 1].height + 22);
-        // Anchors centre on whole pixels: Qt 6.4 rounds the middle of the column, Qt 6.8 the place
-        // of the child as well.
+        // Anchors centre on whole pixels: Qt 6.4 rounds the centre of the column, and Qt 6.8 also
+        // rounds the position of the child.
         for (const child of children)
             verify(Math.abs(child.x + child.width / 2 - column.width / 2) < 1, child.objectName);
         compare(column.width, panel.width - 60);
         fuzzyCompare(column.y + column.height / 2, panel.height / 2, 0.51);
     }
 
-    function test_theNoteNamesTheWait() {
+    function test_theClipboardNoteNamesTheDelay() {
         compare(shown("clipboardNote"), "Die Zwischenablage wird nach 30 Sekunden geleert, sofern du nichts anderes kopierst.");
     }
 
-    function test_buttonsStand12Apart() {
+    function test_buttonsAre12Apart() {
         const generate = findChild(content, "generate") as Button;
         const copy = findChild(content, "copy") as Button;
         compare([generate.text, generate.icon.name], ["Neu erzeugen", "arrow.clockwise"]);
@@ -330,21 +330,21 @@ TestCase {
         compare(rows(), content.model.history.slice(0, 4));
     }
 
-    function test_aHistoryRowTakesItsSecretBack() {
+    function test_aClickOnAHistoryRowDisplaysItsSecret() {
         for (let i = 0; i < 4; ++i)
             content.model.generate();
         const before = rows();
         verify(waitForRendering(content));
         generations.clear();
         const row = findChild(content, "historyRow2") as Button;
-        // Anywhere, also between the text and the arrow.
+        // The space between the text and the arrow belongs to the button.
         mouseClick(row, row.width / 2, 1);
         compare(shown("value"), before[2]);
         compare(rows(), before);
         compare(generations.count, 1);
     }
 
-    function test_anAmpersandInAHistoryRowMakesNoShortcut() {
+    function test_anAmpersandInAHistoryRowCreatesNoShortcut() {
         content.model.settings.mode = 1;
         content.model.settings.separator = "&";
         const letter = secret => secret.split("&")[1][0];
@@ -364,7 +364,7 @@ TestCase {
         compare(box.radius, 12);
     }
 
-    function test_aLongHistoryEntryIsCutShortBeforeItsArrow() {
+    function test_aLongHistorySecretIsElidedBeforeTheArrow() {
         content.model.settings.length = 64;
         verify(waitForRendering(content));
         const row = findChild(content, "historyRow0") as Button;
@@ -378,7 +378,7 @@ TestCase {
         compare(arrow.x + arrow.width, row.width);
     }
 
-    function test_historyBoxHas16AroundAnd8Between() {
+    function test_historyBoxHasPadding16AndSpacing8() {
         content.model.generate();
         content.model.generate();
         verify(waitForRendering(content));

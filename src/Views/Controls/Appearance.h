@@ -8,7 +8,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// The user's preferences that the look follows, from the system and from Qt.
+/// The user's preferences for colours, motion and fonts, as the system and Qt report them.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -22,13 +22,14 @@ class Appearance : public QObject
 public:
     explicit Appearance(QObject* parent = nullptr);
 
-    /// Whether text is light on a dark ground: by the system's preference, or else by the palette.
+    /// Whether the colour scheme is dark. If the system has no setting, the colour scheme is
+    /// taken from Qt.
     [[nodiscard]] static bool dark();
-    /// Whether animations that serve decoration only are left out.
+    /// Whether decorative animations are disabled.
     [[nodiscard]] static bool reducedMotion();
-    /// The user's font.
+    /// The default font of the application.
     [[nodiscard]] static QFont font() { return QGuiApplication::font(); }
-    /// The size of the user's font in units of 13 pixels, 1 or more.
+    /// The pixel size of `font` divided by 13, at least 1.
     [[nodiscard]] static double textScale();
 
 Q_SIGNALS:

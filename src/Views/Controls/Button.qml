@@ -3,7 +3,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A push button: `highlighted` fills it with the accent colour, `flat` leaves out the bezel.
+// A push button. `highlighted` fills the button with the accent colour; `flat` hides the bezel.
 T.Button {
     id: control
 
@@ -11,7 +11,7 @@ T.Button {
     property color hoveredFill: highlighted ? Theme.accentFillHovered : flat ? Theme.flatHovered : Theme.controlHovered
     property color pressedFill: highlighted ? Theme.accentFillPressed : flat ? Theme.flatPressed : Theme.controlPressed
     property real radius: Theme.controlRadius
-    // The widest text that the button shows in turn, so that the button keeps its width.
+    // The widest of the texts that the button shows in turn. The button's width fits this text.
     property string reservedText: text
 
     font: Theme.bodyFont

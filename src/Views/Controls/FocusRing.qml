@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 
-// Marks the control that has the keyboard focus, around `parent` and in its shape.
+// Marks keyboard focus by a ring with rounded corners around `parent`.
 Rectangle {
     property real gap: 4
 

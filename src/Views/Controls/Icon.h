@@ -9,13 +9,15 @@
 #include <QSvgRenderer>
 #include <QtQml/qqmlregistration.h>
 
-/// One of the program's icons, sharp at any scale of the display. Symbols are drawn in `color`.
+/// An SVG icon of the program, sharp at any display scale. `color` replaces `currentColor` in the
+/// file.
 class Icon : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
 
-    /// The name of a file in `icons`, without its ending. Nothing is drawn while the name is empty.
+    /// The name of a file in `icons`, without the extension. Nothing is drawn while `name` is
+    /// empty.
     Q_PROPERTY(QString name MEMBER m_name NOTIFY changed REQUIRED FINAL)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed REQUIRED FINAL)
 

@@ -3,14 +3,14 @@
 import QtQuick
 import Morvane.Views.Controls
 
-// An icon and a text beside it, in one colour, centred.
+// An icon and a text side by side, in the same colour, centred.
 Item {
     id: root
 
     property color color: Theme.text
     property font font: Theme.bodyFont
     property alias icon: image.name
-    // The widest text that is shown in turn, so that the width stays the same.
+    // The widest of the texts that the label shows in turn. The label's width fits this text.
     property string reservedText: text
     property alias text: label.text
 

@@ -7,7 +7,8 @@ import QtQuick.Templates as T
 T.Menu {
     id: control
 
-    // A press on the button that opened the menu is left to that button, which closes the menu.
+    // A press on `parent`, the button that opened the menu, does not close the menu, because the
+    // click would open the menu again.
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     implicitHeight: contentHeight + topPadding + bottomPadding
     implicitWidth: Math.max(Theme.scaled(200), contentWidth + leftPadding + rightPadding)

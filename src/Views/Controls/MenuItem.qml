@@ -3,12 +3,12 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A menu item with the shortcut that does the same, also while the menu is closed.
+// A menu item with a shortcut that also works while the menu is closed.
 T.MenuItem {
     id: control
 
     property alias isAvailable: command.enabled
-    // Whether the shortcut is in effect. The menu shows the shortcut in any case.
+    // Whether the shortcut works. The menu item displays the shortcut in either case.
     property bool isShortcutEnabled: true
     property alias shortcut: shortcutName.sequence
     property alias title: command.text
@@ -59,7 +59,7 @@ T.MenuItem {
         text: shortcutName.nativeText
     }
 
-    // Only names the keys: while the menu is closed, the shortcut of an action matches, this one not.
+    // Only provides the displayed text, because a Shortcut does not match while the menu is closed.
     Shortcut {
         id: shortcutName
 

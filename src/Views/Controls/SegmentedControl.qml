@@ -4,8 +4,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
-// All choices side by side, one of them selected. The user's choice is reported by `chosen`, and the
-// owner of the bound `currentIndex` sets the new one.
+// A row of segments, one per choice, of which one is selected. A choice by the user emits `chosen`;
+// the component that binds `currentIndex` changes the index.
 FocusScope {
     id: control
 
@@ -22,7 +22,7 @@ FocusScope {
     Accessible.name: control.name
     Accessible.role: Accessible.Grouping
 
-    // As wide as the widest choice, in the weight of the selected one.
+    // Measures the widest choice in the font of a selected segment.
     PlainText {
         id: widest
 
@@ -47,7 +47,7 @@ FocusScope {
         y: row.y
 
         Behavior on x  {
-            // While the window is laid out, the control has no focus and nothing moves.
+            // Not animated without keyboard focus, because the layout changes `x` as well.
             enabled: control.activeFocus
 
             NumberAnimation {

@@ -3,15 +3,15 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A slider over whole numbers. The arrow keys move it by one, Home and End to its ends.
+// A slider for whole numbers. The arrow keys change the value by 1.
 T.Slider {
     id: control
 
-    // Qt's accessibility reads the ends from properties of these names.
+    // Qt's accessibility support reads the range from properties with these names.
     readonly property real maximumValue: to
     readonly property real minimumValue: from
 
-    // Home or End was pressed. The owner of the bound `value` sets the new one.
+    // Home or End was pressed. The component that binds `value` changes the value to `end`.
     signal endRequested(real end)
 
     implicitHeight: 20

@@ -3,7 +3,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A switch at the end of its line, with its label at the start.
+// A switch at the right end of a line, with a label at the left end.
 T.Switch {
     id: control
 
@@ -62,7 +62,7 @@ T.Switch {
         }
     }
 
-    // Qt's own reaction to a screen reader writes `checked` and so ends the binding on it.
+    // Qt's default action for screen readers assigns `checked`, which breaks the property binding.
     function toggleByUser() {
         control.toggle();
         control.toggled();

@@ -3,7 +3,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A single line of text to edit.
+// A single-line text field.
 T.TextField {
     id: control
 

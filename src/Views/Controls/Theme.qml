@@ -4,7 +4,7 @@ pragma Singleton
 import QtQuick
 import Morvane.Views.Controls
 
-// The fonts, colours and measures of the look, in both colour schemes.
+// The fonts, colours and dimensions of the user interface, in both colour schemes.
 QtObject {
     readonly property Appearance appearance: Appearance {
     }
@@ -27,7 +27,7 @@ QtObject {
     readonly property real controlRadius: 6
     readonly property real rowRadius: 5
     readonly property real disabledOpacity: 0.4
-    // In milliseconds.
+    // The duration of an animation, in milliseconds.
     readonly property int transition: appearance.reducedMotion ? 0 : 120
 
     readonly property color window: dark ? "#323232" : "#ececec"
@@ -40,13 +40,13 @@ QtObject {
     readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
     readonly property color secondaryText: dark ? "#b4b4b8" : "#56565b"
     readonly property color tertiaryText: dark ? "#a0a0a5" : "#6a6a6f"
-    // Behind selected text, which keeps its colour.
+    // The background of selected text. Selected text keeps its colour.
     readonly property color selection: dark ? "#2f5685" : "#b3d4ff"
-    // The shades of red, orange, blue and green in which text is legible on the surface.
+    // Shades of red, orange, blue and green that have a contrast of at least 4.5:1 on `surface`.
     readonly property list<color> strengthColors: dark ? ["#ff6961", "#ffb340", "#5eb0ff", "#32d74b"] : ["#c9231a", "#a35200", "#0062cc", "#1a7a2e"]
 
     readonly property color accent: dark ? "#0a84ff" : "#007aff"
-    // Darker than the accent, for the contrast of the white text on it.
+    // Darker than `accent`, for the contrast of `accentText`.
     readonly property color accentFill: dark ? "#0a6fe0" : "#0068e0"
     readonly property color accentFillHovered: dark ? "#0a66cf" : "#0061d1"
     readonly property color accentFillPressed: dark ? "#0a5cbb" : "#0057bd"
@@ -68,13 +68,13 @@ QtObject {
     readonly property color segmentTrack: dark ? "#29292b" : "#dadade"
     readonly property color segmentHovered: dark ? "#3a3a3c" : "#d0d0d5"
 
-    // The length at the user's text size that is `pixels` long at the default text size.
+    // Converts a length at the default text size to the length at the user's text size.
     function scaled(pixels: real): int {
         return Math.round(pixels * appearance.textScale);
     }
 
-    // A font that leaves nothing to inherit: controls inherit from the desktop's own font for each
-    // kind of control, and every font that differs costs a search for its file.
+    // Sets the properties that controls would inherit from the desktop's fonts for single kinds of
+    // controls, because every additional font requires a search for a font file.
     function textFont(pixels: real, weight: int): font {
         return fontOfSize(appearance.font.family, scaled(pixels), weight);
     }
@@ -83,7 +83,7 @@ QtObject {
         return fontOfSize("monospace", scaled(pixels), weight);
     }
 
-    // `pixels` is not scaled.
+    // Uses `pixels` without scaling it.
     function fontOfSize(family: string, pixels: int, weight: int): font {
         return Qt.font({
                 "family": family,
