@@ -13,7 +13,7 @@
 
 #include <chrono>
 
-/// Lets a view test be the system: its appearance, its font, its clock, its clipboard.
+/// Lets a view test set the appearance and the font, advance the fake clock and read the clipboard.
 class FakeSystem : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
         QGuiApplication::setFont(font);
     }
 
-    /// What a paste would yield; "(leer)" while the clipboard is empty.
+    /// The text on the clipboard; "(leer)" while the clipboard is empty.
     Q_INVOKABLE [[nodiscard]] static QString clipboardText()
     {
         return FakeClipboard::text().value_or(QStringLiteral("(leer)"));

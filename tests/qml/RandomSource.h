@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <memory>
 
-/// Lets a view test make the random source fail, and mend it.
+/// Lets a view test make the random source fail, and end the failure.
 class RandomSource : public QObject
 {
     Q_OBJECT

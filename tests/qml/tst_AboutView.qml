@@ -59,10 +59,10 @@ TestCase {
         const icon = findChild(view, "aboutIcon") as Item;
         compare([icon.width, icon.height], [96, 96]);
         const image = grabImage(testCase);
-        const place = icon.mapToItem(testCase, 0, 0, icon.width, icon.height);
+        const bounds = icon.mapToItem(testCase, 0, 0, icon.width, icon.height);
         const colors = new Set();
-        for (let y = place.top; y < place.bottom; y += 2) {
-            for (let x = place.left; x < place.right; x += 2)
+        for (let y = bounds.top; y < bounds.bottom; y += 2) {
+            for (let x = bounds.left; x < bounds.right; x += 2)
                 colors.add(String(image.pixel(x, y)));
         }
         verify(colors.size > 100, "colours: " + colors.size);
@@ -88,7 +88,7 @@ TestCase {
                 "weight": Font.DemiBold,
                 "color": Theme.text
             }, {
-                "tag": "promise",
+                "tag": "privacy statement",
                 "line": 3,
                 "size": 11,
                 "weight": Font.Normal,
@@ -119,7 +119,7 @@ TestCase {
         compare([divider.width, divider.height], [260, 1]);
     }
 
-    function test_aLongCreditWrapsAndTheFrameStays() {
+    function test_aLongCreditWrapsAndTheViewKeepsItsSize() {
         const credit = findChild(view, "aboutCredit") as Text;
         compare(credit.lineCount, 2);
         credit.text = "Entwickelt von\n" + "einem Projekt mit einem sehr langen Namen – und vielen, die daran mitwirken";

@@ -13,8 +13,9 @@ TestCase {
 
     property ContentView content: null
 
+    // The alert exists only while there is an error.
     function alertIsShown(): bool {
-        return findChild(content, "errorAlert")?.opened ?? false; // built when first needed
+        return findChild(content, "errorAlert")?.opened ?? false;
     }
 
     function init() {
@@ -52,14 +53,14 @@ TestCase {
 
     function test_panelsStandSideBySide() {
         const left = findChild(content, "settingsPanel") as Item;
-        const line = findChild(content, "panelDivider") as Item;
+        const divider = findChild(content, "panelDivider") as Item;
         const right = findChild(content, "resultPanel") as Item;
         compare([left.x, left.y, left.width, left.height], [0, 0, 280, 610]);
-        compare([line.x, line.y, line.width, line.height], [280, 0, 1, 610]);
+        compare([divider.x, divider.y, divider.width, divider.height], [280, 0, 1, 610]);
         compare([right.x, right.y, right.width, right.height], [281, 0, 479, 610]);
     }
 
-    function test_wideningWidensOnlyTheResultPanel() {
+    function test_aWiderWindowWidensOnlyTheResultPanel() {
         content.width = 1200;
         content.height = 800;
         const left = findChild(content, "settingsPanel") as Item;
@@ -68,7 +69,7 @@ TestCase {
         compare([right.x, right.width, right.height], [281, 919, 800]);
     }
 
-    function test_aNewValueIsShownVerbatim_data() {
+    function test_aNewSecretIsShownVerbatim_data() {
         return [{
                 "tag": "markup",
                 "separator": "<b>"
@@ -76,12 +77,12 @@ TestCase {
                 "tag": "entity",
                 "separator": "&lt"
             }, {
-                "tag": "blanks",
+                "tag": "spaces",
                 "separator": "   "
             }];
     }
 
-    function test_aNewValueIsShownVerbatim(data) {
+    function test_aNewSecretIsShownVerbatim(data) {
         content.model.settings.separator = data.separator;
         content.model.settings.mode = 1;
         const value = findChild(content, "value") as TextEdit;
@@ -142,14 +143,14 @@ TestCase {
         compare(generations.count, 2);
     }
 
-    function test_assigningTheSameValueDoesNotRegenerate() {
+    function test_assigningEqualSettingsDoesNotRegenerate() {
         content.model.settings.length = 10;
         content.model.settings.separator = "-";
         content.model.settings = content.model.settings;
         compare(generations.count, 0);
     }
 
-    function test_aFailureIsShownInAModalAlertOverTheLastValue() {
+    function test_aFailureOpensAModalAlertAndKeepsTheSecret() {
         switchEveryGroupOff();
         const shown = content.model.generated;
         const alert = findChild(content, "errorAlert") as ErrorAlert;
@@ -185,7 +186,7 @@ TestCase {
     function test_theAlertIsDismissed(data) {
         switchEveryGroupOff();
         const shown = content.model.generated;
-        const generated = generations.count;
+        const generationsBefore = generations.count;
         if (data.key === 0)
             mouseClick(findChild(findChild(content, "errorAlert").contentItem, "alertButton"));
         else
@@ -194,36 +195,36 @@ TestCase {
         compare(content.model.errorMessage, "");
         verify(!content.model.errorPresented);
         compare(content.model.generated, shown);
-        compare(generations.count, generated);
+        compare(generations.count, generationsBefore);
         content.model.settings.numbers = true;
-        compare(generations.count, generated + 1);
+        compare(generations.count, generationsBefore + 1);
         verify(!alertIsShown());
     }
 
-    function test_theAlertBlocksTheWindowsShortcuts() {
+    function test_theAlertBlocksTheShortcutsOfTheWindow() {
         switchEveryGroupOff();
         content.model.settings.numbers = true;
-        const generated = generations.count;
+        const generationsBefore = generations.count;
         randomSource.failing = true;
         content.model.generate();
         tryVerify(alertIsShown);
         randomSource.failing = false;
         keySequence("Ctrl+R");
-        compare(generations.count, generated);
+        compare(generations.count, generationsBefore);
         keyClick(Qt.Key_Escape);
         tryVerify(() => !alertIsShown());
         keySequence("Ctrl+R");
-        compare(generations.count, generated + 1);
+        compare(generations.count, generationsBefore + 1);
     }
 
-    function test_aSuccessWithdrawsTheAlert() {
+    function test_aSuccessfulGenerationClosesTheAlert() {
         switchEveryGroupOff();
         content.model.settings.numbers = true;
         tryVerify(() => !alertIsShown());
         switchEveryGroupOff();
     }
 
-    function test_aFailingRandomSourceReachesTheAlert() {
+    function test_aFailingRandomSourceOpensTheAlert() {
         const shown = content.model.generated;
         randomSource.failing = true;
         content.model.generate();

@@ -27,7 +27,7 @@ TestCase {
         content = null;
     }
 
-    // All texts below `item` that are on show.
+    // All visible text items below `item`.
     function texts(item: Item): list<Item> {
         let found = [];
         if (!item.visible || item.opacity === 0)
@@ -51,20 +51,20 @@ TestCase {
         return (Math.max(first, second) + 0.05) / (Math.min(first, second) + 0.05);
     }
 
-    // Of the ink to its ground, as painted: the ground is the colour that most pixels have, the ink
-    // the one that differs most from it.
+    // The contrast of a painted text to the background. The background is the most frequent colour,
+    // and the text has the colour with the greatest contrast to the background.
     function paintedContrast(text: Item, image: QtObject): real {
-        const place = text.mapToItem(testCase, 0, 0, text.width, text.height);
+        const bounds = text.mapToItem(testCase, 0, 0, text.width, text.height);
         const counts = new Map();
-        for (let y = Math.ceil(place.top); y < Math.floor(place.bottom); ++y) {
-            for (let x = Math.ceil(place.left); x < Math.floor(place.right); ++x) {
+        for (let y = Math.ceil(bounds.top); y < Math.floor(bounds.bottom); ++y) {
+            for (let x = Math.ceil(bounds.left); x < Math.floor(bounds.right); ++x) {
                 const color = String(image.pixel(x, y));
                 counts.set(color, (counts.get(color) ?? 0) + 1);
             }
         }
         const colors = Array.from(counts.keys()).map(name => Qt.color(name));
-        const ground = colors.reduce((a, b) => counts.get(String(a)) >= counts.get(String(b)) ? a : b);
-        return Math.max(...colors.map(color => contrast(color, ground)));
+        const background = colors.reduce((a, b) => counts.get(String(a)) >= counts.get(String(b)) ? a : b);
+        return Math.max(...colors.map(color => contrast(color, background)));
     }
 
     function verifyContrasts(item: Item, expectedTexts: int) {
@@ -78,7 +78,7 @@ TestCase {
         }
     }
 
-    function test_paintedContrastSeesWhatIsPainted() {
+    function test_paintedContrastMeasuresThePaintedColors() {
         const image = grabImage(testCase);
         verify(paintedContrast(faint, image) < 2);
         verify(paintedContrast(plain, image) > 15);
@@ -95,7 +95,7 @@ TestCase {
     }
 
     function test_contrast(data) {
-        // In this order, for otherwise the colours would take their time.
+        // Motion is reduced first, so that the colours change without a transition.
         system.setAppearance(false, true);
         system.setAppearance(data.dark, true);
         compare(Theme.dark, data.dark);
@@ -119,7 +119,7 @@ TestCase {
     }
 
     function test_contrastUnderPointer(data) {
-        // In this order, for otherwise the colours would take their time.
+        // Motion is reduced first, so that the colours change without a transition.
         system.setAppearance(false, true);
         system.setAppearance(data.dark, true);
         for (const name of ["generate", "copy", "historyRow0", "modePicker"]) {
@@ -138,7 +138,7 @@ TestCase {
     }
 
     function test_contrastInTheAlert(data) {
-        // In this order, for otherwise the colours would take their time.
+        // Motion is reduced first, so that the colours change without a transition.
         system.setAppearance(false, true);
         system.setAppearance(data.dark, true);
         for (const group of ["lowercase", "uppercase", "numbers", "symbols"])
@@ -153,7 +153,7 @@ TestCase {
     }
 
     function test_contrastInTheAboutView(data) {
-        // In this order, for otherwise the colours would take their time.
+        // Motion is reduced first, so that the colours change without a transition.
         system.setAppearance(false, true);
         system.setAppearance(data.dark, true);
         verifyContrasts(about, 6);
@@ -164,7 +164,7 @@ TestCase {
     }
 
     function test_contrastInAMenu(data) {
-        // In this order, for otherwise the colours would take their time.
+        // Motion is reduced first, so that the colours change without a transition.
         system.setAppearance(false, true);
         system.setAppearance(data.dark, true);
         menu.open();
@@ -176,7 +176,7 @@ TestCase {
         tryVerify(() => !menu.visible);
     }
 
-    function test_theSchemeFollowsTheSystemWhileRunning() {
+    function test_theColorSchemeFollowsTheSystemWhileRunning() {
         system.setAppearance(true, false);
         verify(Theme.dark);
         verify(waitForRendering(content));
@@ -189,84 +189,85 @@ TestCase {
         verify(luminance(Theme.window) > 0.8);
     }
 
-    function test_reducedMotionLeavesNoTransition() {
+    function test_reducedMotionDisablesTransitions() {
         verify(Theme.transition > 0);
         verify(Theme.transition <= 200);
         system.setAppearance(false, true);
         compare(Theme.transition, 0);
-        const toggle = findChild(content, "symbols") as Switch;
-        const knob = findChild(toggle, "knob") as Item;
+        const symbolsSwitch = findChild(content, "symbols") as Switch;
+        const knob = findChild(symbolsSwitch, "knob") as Item;
         const before = knob.x;
-        mouseClick(toggle);
+        mouseClick(symbolsSwitch);
         verify(knob.x < before);
         compare(knob.x, 2);
     }
 
-    function test_withMotionAKnobTakesItsTime() {
-        const toggle = findChild(content, "symbols") as Switch;
-        const knob = findChild(toggle, "knob") as Item;
+    function test_theKnobIsAnimatedWithoutReducedMotion() {
+        const symbolsSwitch = findChild(content, "symbols") as Switch;
+        const knob = findChild(symbolsSwitch, "knob") as Item;
         const before = knob.x;
-        mouseClick(toggle);
+        mouseClick(symbolsSwitch);
         verify(knob.x > 2);
         tryCompare(knob, "x", 2);
         verify(before > 2);
     }
 
-    function test_everySymbolHasADrawing_data() {
+    function test_everyIconIsDrawn_data() {
         const names = ["key.horizontal.fill", "lock.shield", "shield.slash", "shield.lefthalf.filled", "shield", "checkmark.shield.fill", "sparkles", "arrow.clockwise", "doc.on.doc", "checkmark", "arrow.up.left", "menu", "window.close", "window.maximize", "window.minimize", "window.restore"];
         return Array.from(names, name => ({
                         "tag": name
                     }));
     }
 
-    function test_everySymbolHasADrawing(data) {
+    function test_everyIconIsDrawn(data) {
         symbol.name = data.tag;
         verify(waitForRendering(symbol));
         const image = grabImage(testCase);
-        const place = symbol.mapToItem(testCase, 0, 0, symbol.width, symbol.height);
-        let inked = 0;
-        for (let y = place.top; y < place.bottom; ++y) {
-            for (let x = place.left; x < place.right; ++x) {
+        const bounds = symbol.mapToItem(testCase, 0, 0, symbol.width, symbol.height);
+        let coloredPixels = 0;
+        for (let y = bounds.top; y < bounds.bottom; ++y) {
+            for (let x = bounds.left; x < bounds.right; ++x) {
                 if (Qt.colorEqual(image.pixel(x, y), symbol.color))
-                    ++inked;
+                    ++coloredPixels;
             }
         }
-        verify(inked > 20, "pixels in the symbol's colour: " + inked);
+        verify(coloredPixels > 20, "pixels in the symbol's colour: " + coloredPixels);
         symbol.name = "";
     }
 
-    function layOut() {
+    function waitForLayout() {
         for (const name of ["settingsColumn", "resultColumn"])
             verify(waitForItemPolished(findChild(content, name)));
     }
 
-    // At a size at which the content fits, no text is cut, lies outside, or touches another.
+    // Verifies that at the minimum size every text is complete, inside the content and separate from
+    // the other texts. The secrets in the history are excluded, because the history elides them.
     function verifyNothingIsCut() {
-        // The smallest size is known once all is laid out.
+        // The minimum size is final only after the layout at the first minimum size.
         for (let i = 0; i < 2; ++i) {
-            layOut();
+            waitForLayout();
             content.width = content.minimumWidth;
             content.height = content.minimumHeight;
         }
-        layOut();
+        waitForLayout();
         const found = Array.from(texts(content)).filter(text => text.objectName !== "secret");
-        const places = found.map(text => {
-                const place = text.mapToItem(content, 0, 0, text.width, text.height);
+        const allBounds = found.map(text => {
+                const bounds = text.mapToItem(content, 0, 0, text.width, text.height);
                 verify(!text.truncated, text.text);
                 verify(text.contentWidth <= text.width + 0.5, text.text + ": " + text.contentWidth + " in " + text.width);
                 verify(text.contentHeight <= text.height + 0.5, text.text + ": " + text.contentHeight + " in " + text.height);
-                verify(place.left >= 0 && place.top >= 0 && place.right <= content.width && place.bottom <= content.height, text.text + " at " + place);
-                return place;
+                verify(bounds.left >= 0 && bounds.top >= 0 && bounds.right <= content.width && bounds.bottom <= content.height, text.text + " at " + bounds);
+                return bounds;
             });
-        for (let i = 0; i < places.length; ++i) {
+        for (let i = 0; i < allBounds.length; ++i) {
             for (let j = 0; j < i; ++j) {
-                const apart = places[i].left >= places[j].right || places[j].left >= places[i].right || places[i].top >= places[j].bottom || places[j].top >= places[i].bottom;
-                verify(apart, found[i].text + " overlaps " + found[j].text);
+                const areSeparate = allBounds[i].left >= allBounds[j].right || allBounds[j].left >= allBounds[i].right || allBounds[i].top >= allBounds[j].bottom || allBounds[j].top >= allBounds[i].bottom;
+                verify(areSeparate, found[i].text + " overlaps " + found[j].text);
             }
         }
     }
 
-    function test_fonts_data() {
+    function test_contentFitsAtFontSize_data() {
         return [{
                 "tag": "small",
                 "pixels": 9,
@@ -286,7 +287,7 @@ TestCase {
             }];
     }
 
-    function test_fonts(data) {
+    function test_contentFitsAtFontSize(data) {
         system.setFontPixelSize(data.pixels);
         compare(Theme.bodyFont.pixelSize, data.body);
         verify(Theme.captionFont.pixelSize >= 11);
@@ -300,7 +301,7 @@ TestCase {
         verifyNothingIsCut();
     }
 
-    function test_theMinimumIs760By610AtTheDefaultFont() {
+    function test_theMinimumSizeIs760By610AtTheDefaultFont() {
         compare([content.minimumWidth, content.minimumHeight], [760, 610]);
         for (let i = 0; i < 4; ++i)
             content.model.generate();
@@ -310,11 +311,11 @@ TestCase {
         compare([content.minimumWidth, content.minimumHeight], [760, 610]);
     }
 
-    function test_theMinimumGrowsWithTheFont() {
+    function test_theMinimumSizeGrowsWithTheFont() {
         for (let i = 0; i < 4; ++i)
             content.model.generate();
         system.setFontPixelSize(20);
-        layOut();
+        waitForLayout();
         verify(content.minimumHeight > 610);
         compare(findChild(content, "settingsPanel").width > 280, true);
     }

@@ -19,12 +19,12 @@ TestCase {
         triggered.clear();
     }
 
-    // The text of `name` below `item`, or null.
-    function shownText(item: Item, name: string): Text {
-        if (item instanceof Text && item.visible && item.text === name)
+    // The visible text item below `item` that shows `text`, or null.
+    function visibleText(item: Item, text: string): Text {
+        if (item instanceof Text && item.visible && item.text === text)
             return item as Text;
         for (const child of Array.from(item.children)) {
-            const found = shownText(child, name);
+            const found = visibleText(child, text);
             if (found)
                 return found;
         }
@@ -39,7 +39,7 @@ TestCase {
     function test_aDisabledShortcutTriggersNothingAndLooksTheSame() {
         menu.open();
         tryVerify(() => menu.opened);
-        const keys = shownText(menu.contentItem, "Strg+1");
+        const keys = visibleText(menu.contentItem, "Strg+1");
         verify(keys);
         const opacity = keys.opacity;
         const width = command.implicitWidth;

@@ -49,7 +49,8 @@ TestCase {
         content = null;
     }
 
-    // The panel's children from top to bottom, those of the mode's settings among them.
+    // The children of the panel from top to bottom. The settings of the mode are replaced by their
+    // own children.
     function stackedChildren(): list<Item> {
         const column = control("settingsColumn");
         let found = [];
@@ -63,34 +64,34 @@ TestCase {
         return found;
     }
 
-    function test_childrenStandInTheirOrderAt18_data() {
+    function test_childrenAreInOrderWithSpacing18_data() {
         return [{
                 "tag": "password",
                 "mode": 0,
-                "named": ["title", "", "length", "", "", "avoidAmbiguous", "requireEveryGroup"]
+                "names": ["title", "", "length", "", "", "avoidAmbiguous", "requireEveryGroup"]
             }, {
                 "tag": "passphrase",
                 "mode": 1,
-                "named": ["title", "", "wordCount", "", "capitalizeWords", "appendNumber"]
+                "names": ["title", "", "wordCount", "", "capitalizeWords", "appendNumber"]
             }];
     }
 
-    function test_childrenStandInTheirOrderAt18(data) {
+    function test_childrenAreInOrderWithSpacing18(data) {
         content.model.settings.mode = data.mode;
         verify(waitForItemPolished(control("settingsColumn")));
         const children = stackedChildren();
         const panel = control("settingsPanel");
-        compare(children.map(child => child.objectName), data.named);
+        compare(children.map(child => child.objectName), data.names);
         compare(children[0].mapToItem(panel, 0, 0), Qt.point(24, 24));
         for (let i = 1; i < children.length; ++i) {
             const above = children[i - 1].mapToItem(panel, 0, children[i - 1].height).y;
-            const place = children[i].mapToItem(panel, 0, 0);
-            compare(place.y, above + 18, children[i].objectName);
-            compare(place.x, 24);
+            const position = children[i].mapToItem(panel, 0, 0);
+            compare(position.y, above + 18, children[i].objectName);
+            compare(position.x, 24);
         }
     }
 
-    function test_blocksKeepTheirInnerSpacing() {
+    function test_spacingWithinTheGroups() {
         const length = control("length");
         compare(slider("length").y, findChild(length, "number").height + 8);
         const groups = Array.from(["lowercase", "uppercase", "numbers", "symbols"], name => control(name));
@@ -101,7 +102,7 @@ TestCase {
         compare(field.y, findChild(field.parent, "separatorTitle").height + 6);
     }
 
-    function test_theTitleAndTheNoteHaveTheirSymbols() {
+    function test_theTitleAndThePrivacyNoteHaveIconsAndPositions() {
         const title = control("title") as IconLabel;
         compare([title.icon, title.text, title.font.bold, title.font.pixelSize], ["key.horizontal.fill", "Morvane", true, 17]);
         const note = control("privacyNote");
@@ -136,19 +137,19 @@ TestCase {
         const segments = content.model.modeTitles;
         compare(segments, ["Passwort", "Passphrase"]);
         const picker = control("modePicker");
-        verify(!findChild(content, "wordCount"), "not built before it is needed");
+        verify(!findChild(content, "wordCount"), "the passphrase settings do not exist in password mode");
         mouseClick(picker, picker.width * 0.75);
         compare(mode(), 1);
         compare(generations.count, 1);
         compare(content.model.generated.split("-").length, 6);
         verify(control("wordCount").visible);
-        tryVerify(() => !findChild(content, "length"), 5000, "the other settings are destroyed");
+        tryVerify(() => !findChild(content, "length"), 5000, "the password settings are destroyed");
         mouseClick(picker, picker.width * 0.75);
         compare(generations.count, 1);
         mouseClick(picker, picker.width * 0.25);
         compare(mode(), 0);
         compare(generations.count, 2);
-        tryVerify(() => !findChild(content, "wordCount"), 5000, "the other settings are destroyed");
+        tryVerify(() => !findChild(content, "wordCount"), 5000, "the passphrase settings are destroyed");
         verify(control("length").visible);
     }
 
@@ -219,7 +220,7 @@ TestCase {
         compare(generations.count, 4);
     }
 
-    function test_slidersDoNotChangeASettingBeyondTheirEnds() {
+    function test_slidersDoNotChangeASettingOutsideTheirRange() {
         content.model.settings.length = 6;
         compare(content.model.settings.length, 6);
         compare(number("length"), "6");
@@ -230,15 +231,15 @@ TestCase {
     }
 
     function test_draggingASliderRegeneratesOncePerNewValue() {
-        const track = slider("length");
+        const lengthSlider = slider("length");
         const values = [];
-        const note = () => values.push(content.model.settings.length);
-        content.model.generatedChanged.connect(note);
-        mousePress(track, 9 + (track.width - 18) * 2 / 56, track.height / 2);
-        for (let x = 0; x <= track.width; ++x)
-            mouseMove(track, x, track.height / 2);
-        mouseRelease(track, track.width, track.height / 2);
-        content.model.generatedChanged.disconnect(note);
+        const record = () => values.push(content.model.settings.length);
+        content.model.generatedChanged.connect(record);
+        mousePress(lengthSlider, 9 + (lengthSlider.width - 18) * 2 / 56, lengthSlider.height / 2);
+        for (let x = 0; x <= lengthSlider.width; ++x)
+            mouseMove(lengthSlider, x, lengthSlider.height / 2);
+        mouseRelease(lengthSlider, lengthSlider.width, lengthSlider.height / 2);
+        content.model.generatedChanged.disconnect(record);
         compare(content.model.settings.length, 64);
         compare(content.model.generated.length, 64);
         for (let i = 1; i < values.length; ++i)
@@ -288,25 +289,25 @@ TestCase {
     function test_switches(data) {
         content.model.settings.mode = data.mode;
         generations.clear();
-        const toggle = control(data.tag);
+        const switchItem = control(data.tag);
         const before = content.model.settings[data.tag];
-        // The other mode's controls have their place once the column has been laid out.
-        if (isPolishScheduled(toggle.parent))
-            verify(waitForItemPolished(toggle.parent));
-        compare(toggle.text, data.label);
-        compare(toggle.checked, before);
-        mouseClick(toggle);
+        // Controls created by the change of the mode are positioned when their column is laid out.
+        if (isPolishScheduled(switchItem.parent))
+            verify(waitForItemPolished(switchItem.parent));
+        compare(switchItem.text, data.label);
+        compare(switchItem.checked, before);
+        mouseClick(switchItem);
         compare(content.model.settings[data.tag], !before);
         compare(generations.count, 1);
-        toggle.forceActiveFocus();
+        switchItem.forceActiveFocus();
         keyClick(Qt.Key_Space);
         compare(content.model.settings[data.tag], before);
         compare(generations.count, 2);
         content.model.settings[data.tag] = !before;
-        compare(toggle.checked, !before);
+        compare(switchItem.checked, !before);
     }
 
-    function test_allGroupsMayBeSwitchedOff() {
+    function test_allGroupsCanBeSwitchedOff() {
         for (const name of ["lowercase", "uppercase", "numbers", "symbols"])
             mouseClick(control(name));
         tryVerify(() => findChild(content, "errorAlert").opened);
@@ -317,7 +318,7 @@ TestCase {
         verify(/^[2-9]{10}$/.test(content.model.generated), content.model.generated);
     }
 
-    function test_separatorKeepsThreePerceivedCharacters_data() {
+    function test_separatorKeepsThreeGraphemeClusters_data() {
         return [{
                 "tag": "six letters",
                 "typed": "abcdef",
@@ -334,7 +335,7 @@ TestCase {
                 "kept": "--",
                 "regenerations": 1
             }, {
-                "tag": "dot between blanks",
+                "tag": "dot between spaces",
                 "typed": " · ",
                 "kept": " · ",
                 "regenerations": 1
@@ -361,7 +362,7 @@ TestCase {
             }];
     }
 
-    function test_separatorKeepsThreePerceivedCharacters(data) {
+    function test_separatorKeepsThreeGraphemeClusters(data) {
         showPassphraseSettings();
         content.model.settings.separator = data.typed;
         compare(content.model.settings.separator, data.kept);
