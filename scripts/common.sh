@@ -2,14 +2,15 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# Common start of all scripts: strict mode, the top folder as working directory, no interactive
-# input. Sourced by the other scripts.
+# The beginning of all scripts, which source this file: strict mode, the top folder as the working
+# directory, no interactive input.
 
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# A program that starts with a closed standard input would get descriptor 0 for its first file.
+# Standard input is open even if the caller has closed it; otherwise, the first file that a program
+# opens would get descriptor 0.
 exec </dev/null
 
 # shellcheck source=scripts/packages.sh
@@ -35,7 +36,7 @@ has_qt_of_linters() {
 
 # Builds the program if a source has changed.
 build_program() {
-    # Ninja configures again after a change of a CMakeLists.txt, but not after a change of a preset.
+    # Ninja runs CMake again after a change of a CMakeLists.txt, but not after a change of a preset.
     if ! [[ build/release/build.ninja -nt CMakePresets.json ]]; then
         cmake --preset release
     fi

@@ -2,15 +2,15 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 
-# The Debian packages that the scripts need in addition to the build dependencies in debian/control.
-# Sourced by the other scripts.
+# Lists and installs the Debian packages that the scripts need in addition to the build dependencies
+# in debian/control. Sourced by the other scripts.
 
 declare -A packages
 
 # The build needs only the packages in debian/control.
 packages[build]=
 
-# Qt's libraries include the xcb platform plugin, but not the Wayland plugin.
+# Debian's packages of Qt's libraries contain the xcb platform plugin, but not the Wayland plugin.
 packages[run]='
     fontconfig
     fonts-dejavu-core
@@ -87,8 +87,8 @@ packages[in-debian]='
 
 # ensure_packages GROUP...
 # Installs the missing packages of these groups. Prints nothing if no package is missing.
-# The group build includes the build dependencies in debian/control except those of tests; the groups
-# test and package-test include all build dependencies.
+# The group build includes the build dependencies in debian/control except those of the tests; the
+# groups test and package-test include all build dependencies.
 ensure_packages() {
     # On systems without dpkg, users install the dependencies themselves.
     command -v dpkg-query >/dev/null || return 0
@@ -101,11 +101,11 @@ ensure_packages() {
     local -a wanted=() missing=()
     local group
     for group in "$@"; do
-        # shellcheck disable=SC2206 # one word, one package
+        # shellcheck disable=SC2206 # each word is a package
         wanted+=(${packages[$group]})
     done
     ((${#wanted[@]})) || return 0
-    # dpkg-query writes an error for an unknown package, which also counts as missing.
+    # For an unknown package, dpkg-query writes an error; the package counts as missing.
     mapfile -t missing < <(comm -23 \
         <(printf '%s\n' "${wanted[@]}" | sort -u) \
         <(dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "${wanted[@]}" \
@@ -115,8 +115,9 @@ ensure_packages() {
 }
 
 # ensure_build_dependencies [-PPROFILE]
+# Installs the build dependencies in debian/control for this build profile.
 ensure_build_dependencies() {
-    # dpkg-checkbuilddeps itself can be missing, because build-essential contains it.
+    # dpkg-checkbuilddeps itself can be missing; build-essential, a build dependency, installs it.
     dpkg-checkbuilddeps "$@" >/dev/null 2>&1 || install_packages build-dep "$@" ./
 }
 
@@ -137,7 +138,7 @@ install_packages() {
     printf 'Installing packages: %s\n' "${command[*]}"
     as_root+=(env DEBIAN_FRONTEND=noninteractive)
     local -a options=(-qq --yes -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0)
-    # If one package source is unreachable, another one may contain the packages.
+    # If a package source is unreachable, another package source may contain the packages.
     "${as_root[@]}" apt-get "${options[@]}" update \
         || printf 'Not all package lists could be refreshed.\n' >&2
     "${as_root[@]}" "${command[@]}" "${options[@]}" >/dev/null
