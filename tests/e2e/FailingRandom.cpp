@@ -4,8 +4,8 @@
 // A library for LD_PRELOAD that replaces getrandom: requests of 8 bytes, which only the program
 // makes, fail; requests of other sizes, which libraries make, are passed on.
 //
-// If MORVANE_RANDOM_CONTROL names a file, it holds a Control: the number of the program's requests,
-// and whether they fail.
+// If the environment variable MORVANE_RANDOM_CONTROL names a file, this file holds a Control. The
+// library counts the program's requests there, and the requests fail only while `fails` is not 0.
 
 #include <atomic>
 #include <cerrno>
@@ -49,7 +49,7 @@ Control& control()
     return *shared;
 }
 
-// Opens the file before the program's sandbox forbids that.
+// Opens the file before the sandbox forbids opening files for writing.
 [[maybe_unused]] const Control& openedEarly = control();
 
 } // namespace

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// A library for LD_PRELOAD that attempts forbidden operations inside the program: in every thread,
-// when the program draws its first random number, it tries to write files, open sockets and start
-// processes. Each attempt writes one line to standard error:
+// A library for LD_PRELOAD that tests the sandbox inside the program. When the program draws its
+// first random number, every thread attempts to write files, open sockets, start processes and so
+// on. The sandbox forbids most of these attempts. Each attempt writes one line to standard error:
 //
 //     probe <thread> <attempt> <0 for success, otherwise the value of errno>
 
@@ -167,7 +167,7 @@ constexpr std::array attempts{
     Attempt{"io-uring", setUpIoUring},
     Attempt{"internet", [] { return errorOfSocket(AF_INET); }},
     Attempt{"internet-6", [] { return errorOfSocket(AF_INET6); }},
-    // The kernel ignores the upper 32 bits of the address family, a filter compares 64 bits.
+    // The kernel ignores the upper 32 bits of the address family; seccomp compares all 64 bits.
     Attempt{"internet-64-bit", [] { return errorOfSocket(AF_INET | (1L << 32)); }},
     Attempt{"unix", [] { return errorOfSocket(AF_UNIX); }},
     Attempt{"netlink", [] { return errorOfOpen(::socket(AF_NETLINK, SOCK_RAW, 0)); }},
@@ -201,7 +201,7 @@ void report(const std::string& thread)
 
 void runAttemptsInEveryThread()
 {
-    // The signal handler finds the paths complete.
+    // A signal handler must not allocate memory, so the paths are built before its first run.
     paths();
     runAttempts();
     report("main");

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""An X11 desktop for the program under test: X server, window manager, buses, empty home folder."""
+"""An X11 desktop for the program under test: X server, window manager, buses, home folder."""
 
 import ctypes
 import os
@@ -19,7 +19,7 @@ DEADLINE = 20.0
 RATINGS = ("Schwach", "Mittel", "Gut", "Stark")
 
 KEY_CODES = {"F10": "76"}
-"""Key codes for keys that xdotool cannot press by name: with xkb-data 2.48, it adds Alt to F10."""
+"""Key codes that replace names for xdotool. With xkb-data 2.48, the name F10 also presses Alt."""
 
 PROGRAM = os.environ["MORVANE_PROGRAM"]
 ARTIFACTS = pathlib.Path(os.environ["MORVANE_ARTIFACTS"])
@@ -47,7 +47,7 @@ class Desktop:
         self.home.mkdir()
         runtime = self._folder / "runtime"
         runtime.mkdir(mode=0o700)
-        # AT-SPI in the test's process must find the same buses, so its own environment changes.
+        # pyatspi in the process of the test connects to the buses that this environment names.
         for name in ("WAYLAND_DISPLAY", "DISPLAY", "AT_SPI_BUS_ADDRESS", "QT_QPA_PLATFORM"):
             os.environ.pop(name, None)
         os.environ.update(
@@ -65,7 +65,7 @@ class Desktop:
             raise
 
     def _start_display(self):
-        # A server that ends removes its socket even if a new server already uses the same number.
+        # An ending X server removes its socket, even if a new server uses the same number.
         for _ in range(5):
             os.environ["DISPLAY"] = self._servers.start_x_server("2600x1800")
             manager = self._servers.start(["openbox"])
@@ -93,9 +93,10 @@ class Desktop:
 
 
 class Program:
-    """The program under test. Use it in a `with` block, which ends it.
+    """The program under test; the end of a `with` block ends the program.
 
-    `wrapper` is a command that takes the program as its arguments and runs it in its own process.
+    `wrapper` is the beginning of a command to which the program's path is appended. The command
+    executes the program without a new process, so that the process id is that of the program.
     """
 
     def __init__(
@@ -112,7 +113,7 @@ class Program:
         environment.pop("XDG_CACHE_HOME", None)
         if preload:
             environment["LD_PRELOAD"] = preload
-            # AddressSanitizer rejects libraries that are loaded before its own unless this is set.
+            # AddressSanitizer by default rejects libraries that are loaded before its own library.
             environment["ASAN_OPTIONS"] = ":".join(
                 [os.environ.get("ASAN_OPTIONS", ""), "verify_asan_link_order=0"]
             )
@@ -166,8 +167,8 @@ class Program:
 
         return wait_for(application, "the program on the accessibility bus")
 
-    def value(self):
-        """The shown secret: the label before the rating."""
+    def secret(self):
+        """The shown secret, whose label precedes the label of the rating; None without a secret."""
         labels = [a.name for a in showing_objects(self.accessible()) if role_name(a) == "label"]
         ratings = [i for i, name in enumerate(labels) if name in RATINGS]
         return labels[ratings[-1] - 1] if ratings else None
@@ -177,8 +178,8 @@ class Program:
         names = [a.name for a in showing_objects(self.accessible())]
         return names[names.index("Diese Sitzung") + 1 : names.index("Menü")]
 
-    def activate(self):
-        """Waits until the window has the keyboard focus, which the window manager gives it."""
+    def ensure_keyboard_focus(self):
+        """Waits until the window manager has given the window the keyboard focus."""
         window = self.window()
         wait_for(lambda: output("xdotool", "getactivewindow").strip() == window, "an active window")
 
@@ -210,9 +211,9 @@ class Program:
         move_pointer(*self.stable_centre(name, role))
         subprocess.run(["xdotool", "click", "1"], check=True)
 
-    def key(self, *chords):
-        """Presses keys on the X server's keyboard, one after the other."""
-        key(*chords)
+    def key(self, *combinations):
+        """Presses key combinations such as "Tab" or "ctrl+r", one after the other."""
+        key(*combinations)
 
     def press(self, name):
         """Presses the button or toggles the switch of this name through its accessible action."""
@@ -258,9 +259,9 @@ def output(*command):
     ).stdout
 
 
-def key(*keys):
-    """Presses keys on the X server's keyboard, one after the other."""
-    codes = (KEY_CODES.get(name, name) for name in keys)
+def key(*combinations):
+    """Presses key combinations such as "Tab" or "ctrl+r" on the X server's keyboard, in order."""
+    codes = (KEY_CODES.get(name, name) for name in combinations)
     subprocess.run(["xdotool", "key", *codes], check=True)
 
 
@@ -302,7 +303,7 @@ def find_first(accessible, predicate):
         if accessible.getState().contains(pyatspi.STATE_SHOWING) and predicate(accessible):
             return accessible
         children = list(accessible)
-    except (GLib.Error, ValueError):  # removed during the search
+    except (GLib.Error, ValueError):  # the object was removed during the search
         return None
     for child in children:
         if child is not None:

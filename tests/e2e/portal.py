@@ -15,7 +15,7 @@ TEMPLATE = pathlib.Path(__file__).with_name("portal_template.py")
 
 
 class Portal:
-    """The mock as a process on the session bus. Use it in a `with` block, which ends it."""
+    """The mock as a process on the session bus; the end of a `with` block ends the process."""
 
     def __enter__(self):
         # Returns once the mock answers.

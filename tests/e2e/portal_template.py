@@ -3,8 +3,8 @@
 
 """Template for python-dbusmock: the settings interface of xdg-desktop-portal.
 
-Like the portal, the mock looks at a caller's process at the first call and refuses a process that
-hides from it. The method SetSetting of dbusmock's own interface changes a setting.
+Like the portal, the mock inspects a caller's process at the first call and refuses a process that
+is not dumpable. The method SetSetting of dbusmock's interface changes a setting.
 """
 
 import os
@@ -54,7 +54,7 @@ def ReadOne(self, namespace, key, sender=None):
 def Read(self, namespace, key, sender=None):
     check_caller(self, sender)
     value = find_setting(self, namespace, key)
-    # The portal's Read returns a variant in a variant, ReadOne a plain one.
+    # Read returns a variant that contains a variant; ReadOne returns a variant with the value.
     return type(value)(value, variant_level=2)
 
 
@@ -65,7 +65,7 @@ def SetSetting(self, namespace, key, value):
 
 
 def check_caller(mock, sender):
-    """Raises an error for a caller whose process is hidden at the caller's first call."""
+    """Raises an error if the caller's process is not dumpable at the caller's first call."""
     if sender in mock.known_callers:
         return
     bus = mock.connection
@@ -73,7 +73,7 @@ def check_caller(mock, sender):
         *("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"),
         *("GetConnectionUnixProcessID", "s", (sender,)),
     )
-    # The kernel gives the files of a process that cannot be dumped to root.
+    # The files in /proc of a process that is not dumpable belong to root.
     owner = os.stat(f"/proc/{process}/root", follow_symlinks=False).st_uid
     if owner != bus.get_unix_user(sender):
         raise dbus.exceptions.DBusException(
@@ -83,7 +83,7 @@ def check_caller(mock, sender):
 
 
 def is_requested(namespace, patterns):
-    """Whether a namespace matches a pattern; none and the empty one match every namespace."""
+    """Whether a namespace matches a pattern; an empty list or an empty pattern matches all."""
     return not patterns or any(
         pattern in ("", namespace)
         or (pattern.endswith("*") and namespace.startswith(pattern[:-1]))

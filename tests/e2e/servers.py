@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Child processes that end with their owner, among them virtual X servers and session buses."""
+"""Starts and ends child processes, such as virtual X servers and session buses."""
 
 import os
 import subprocess
@@ -12,7 +12,7 @@ class StartError(Exception):
 
 
 class Servers:
-    """Processes that a test or a benchmark starts; `stop` ends them, and no others."""
+    """Starts processes for a test or a benchmark; `stop` ends these processes and no others."""
 
     def __init__(self):
         self._processes = []
@@ -42,7 +42,7 @@ class Servers:
         )
 
     def _start_and_read_line(self, command, environment):
-        """Starts a server that writes one line to the file descriptor {fd} once it is ready."""
+        """Starts a server; returns the line that the ready server writes to descriptor {fd}."""
         read_end, write_end = os.pipe()
         with os.fdopen(read_end) as pipe:
             try:
@@ -59,7 +59,7 @@ class Servers:
         return line
 
     def stop(self):
-        """Ends all processes, the last one first."""
+        """Ends the processes in the reverse order of their start."""
         while self._processes:
             process = self._processes.pop()
             process.terminate()

@@ -1,15 +1,14 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Traces the system calls of a program with strace, and finds those that break its promises."""
+"""Traces a program's system calls with strace and finds calls that store or send data."""
 
 import pathlib
 import re
 import typing
 
-# The system calls that name a file, create a process or open a connection, and those through which
-# a program could do so without any of these calls. The trace contains no data (-s 0) and adds the
-# paths to file descriptors (-y).
+# The system calls that name a file, create a process or use a connection, and the system calls that
+# make the same possible in another way: io_uring_setup and open_by_handle_at.
 TRACE = (
     "%file,socket,socketpair,bind,connect,listen,accept,accept4,sendto,sendmsg,sendmmsg,"
     "clone,clone3,fork,vfork,execve,execveat,io_uring_setup,open_by_handle_at"
@@ -39,9 +38,9 @@ OPEN_CALLS = {"open", "openat", "openat2", "creat"}
 WRITE_FLAGS = re.compile(r"\bO_(WRONLY|RDWR|CREAT|TRUNC|APPEND|TMPFILE)\b")
 
 DEVICES = re.compile(r"/dev/(null|dri/[^/]+|shm/[^/]+)")
-"""Devices and POSIX shared memory."""
+"""Paths that the program may open for writing: devices and POSIX shared memory."""
 
-FAMILIES = {"AF_UNIX", "AF_NETLINK"}
+ALLOWED_FAMILIES = {"AF_UNIX", "AF_NETLINK"}
 
 RESUMED = re.compile(r"<\.\.\. (?P<name>\w+) resumed>(?P<rest>.*)")
 UNFINISHED = re.compile(r"(?P<begin>.*?) ?<unfinished \.\.\.>")
@@ -66,8 +65,9 @@ class Call(typing.NamedTuple):
 
 
 def trace_command(log):
-    """The command that runs a program, its last argument, and writes the trace to `log`."""
-    # With -D, the process is the program's own, and strace is its grandchild, which ends later.
+    """The beginning of a command to which a program's path is appended; the trace goes to `log`."""
+    # With -D, the started process becomes the program, and strace is its grandchild. With -s 0, the
+    # trace contains no data. With -y, the trace contains the paths of file descriptors.
     return ["strace", "-D", "-f", "-y", "-s", "0", "-e", f"trace={TRACE}", "-o", str(log)]
 
 
@@ -105,7 +105,7 @@ def opened_files(calls):
 def find_violations(calls, program, peers):
     """The calls that change files, start processes or use sockets other than `peers`.
 
-    `peers` are the paths of sockets; those of abstract sockets begin with an @. The first start of
+    `peers` are paths of sockets; the paths of abstract sockets begin with @. The first execve of
     the program itself is allowed.
     """
     is_started = False
@@ -128,7 +128,7 @@ def is_allowed(call, peers):
     if name == "mkdir":
         return call.result.startswith("-1 EEXIST")
     if name in ("socket", "socketpair"):
-        return arguments.partition(",")[0] in FAMILIES
+        return arguments.partition(",")[0] in ALLOWED_FAMILIES
     addresses = list(ADDRESS.finditer(arguments))
     if name == "connect":
         return len(addresses) == 1 and is_peer(addresses[0], peers)

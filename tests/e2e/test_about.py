@@ -45,14 +45,14 @@ class About(unittest.TestCase):
         self.open_menu()
         key("Down", "Return")
         windows = wait_for(self.about_windows, "the About window")
-        wait_for(lambda: self.active_window() == windows[0], "the About window in front")
+        wait_for(lambda: self.active_window() == windows[0], "the active About window")
         return windows[0]
 
     def size(self, window):
         info = output("xwininfo", "-id", window)
         return tuple(int(re.search(rf"{side}:\s+(\d+)", info)[1]) for side in ("Width", "Height"))
 
-    def test_shows_its_texts_in_its_size(self):
+    def test_shows_the_expected_texts_and_has_the_expected_size(self):
         window = self.open_by_keyboard()
         root = self.program.find(
             lambda a: a.name == TITLE and role_name(a) in ("dialog", "frame", "window"),
@@ -73,13 +73,13 @@ class About(unittest.TestCase):
         self.program.save_screenshot(ARTIFACTS / "about.png")
         self.assertEqual(self.size(window), (370, 390))
 
-    def test_opening_it_again_raises_the_same_window(self):
+    def test_the_menu_item_raises_the_open_window(self):
         window = self.open_by_keyboard()
         output("xdotool", "windowactivate", "--sync", self.main_window)
-        wait_for(lambda: self.active_window() == self.main_window, "the main window in front")
+        wait_for(lambda: self.active_window() == self.main_window, "the active main window")
         self.open_menu()
         self.program.press(TITLE)
-        wait_for(lambda: self.active_window() == window, "the About window in front again")
+        wait_for(lambda: self.active_window() == window, "the active About window")
         self.assertEqual(self.about_windows(), [window])
 
     def test_cannot_be_resized(self):
@@ -87,58 +87,58 @@ class About(unittest.TestCase):
         hints = output("xprop", "-id", window, "WM_NORMAL_HINTS")
         self.assertIn("minimum size: 370 by 390", hints)
         self.assertIn("maximum size: 370 by 390", hints)
-        # A resize by the window manager, as when the user drags an edge.
+        # The window manager handles this request like the drag of an edge.
         output("wmctrl", "-i", "-r", window, "-e", "0,100,100,500,600")
         wait_for(
             lambda: re.search(
                 r"Absolute upper-left X:\s+10\d", output("xwininfo", "-id", window)
             ),
-            "the window at its new place",
+            "the window at its new position",
         )
         self.assertEqual(self.size(window), (370, 390))
 
     def test_closes_by_keyboard_and_opens_again(self):
-        for chord in ("Escape", "ctrl+w"):
-            with self.subTest(chord):
+        for combination in ("Escape", "ctrl+w"):
+            with self.subTest(combination):
                 self.open_by_keyboard()
-                key(chord)
+                key(combination)
                 wait_for(lambda: not self.about_windows(), "no About window")
                 wait_for(
-                    lambda: self.active_window() == self.main_window, "the main window in front"
+                    lambda: self.active_window() == self.main_window, "the active main window"
                 )
                 self.assertIsNone(self.program.process.poll())
 
     def test_does_not_change_the_secret(self):
-        value, history = self.program.value(), self.program.history()
+        secret, history = self.program.secret(), self.program.history()
         self.open_by_keyboard()
         key("Escape")
         wait_for(lambda: not self.about_windows(), "no About window")
-        self.assertEqual((self.program.value(), self.program.history()), (value, history))
+        self.assertEqual((self.program.secret(), self.program.history()), (secret, history))
 
     def test_shortcuts_of_the_main_window_do_nothing(self):
-        value, history = self.program.value(), self.program.history()
+        secret, history = self.program.secret(), self.program.history()
         self.open_by_keyboard()
         key("ctrl+r", "ctrl+a", "ctrl+c", "ctrl+shift+c", "F10", "ctrl+m")
-        # Keys are handled in order: when this one has closed the window, the others are done.
+        # The program handles keys in order, so the window closes after all other keys are handled.
         key("ctrl+w")
         wait_for(lambda: not self.about_windows(), "no About window")
-        wait_for(lambda: self.active_window() == self.main_window, "the main window in front")
-        self.assertEqual((self.program.value(), self.program.history()), (value, history))
+        wait_for(lambda: self.active_window() == self.main_window, "the active main window")
+        self.assertEqual((self.program.secret(), self.program.history()), (secret, history))
         names = {a.name for a in showing_objects(self.program.accessible())}
         self.assertFalse(names & {"Kopiert", "Morvane beenden"})
         self.assertEqual(output("xclip", "-o", "-selection", "clipboard"), "")
         self.assertEqual(output("xclip", "-o", "-selection", "primary"), "")
         # The same shortcuts work in the main window.
         key("ctrl+r")
-        wait_for(lambda: self.program.value() != value, "another secret")
+        wait_for(lambda: self.program.secret() != secret, "another secret")
         key("ctrl+q")
         self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
-    def test_shortcuts_work_in_the_main_window_behind_it(self):
+    def test_shortcuts_work_in_the_active_main_window(self):
         self.open_by_keyboard()
         output("xdotool", "windowactivate", "--sync", self.main_window)
-        wait_for(lambda: self.active_window() == self.main_window, "the main window in front")
-        secret = self.program.value()
+        wait_for(lambda: self.active_window() == self.main_window, "the active main window")
+        secret = self.program.secret()
         key("ctrl+a", "ctrl+c")
         wait_for(
             lambda: output("timeout", "2", "xclip", "-o", "-selection", "clipboard") == secret,
@@ -147,7 +147,7 @@ class About(unittest.TestCase):
         key("ctrl+w")
         self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
-    def test_menu_items_stay_enabled_while_it_is_in_front(self):
+    def test_menu_items_stay_enabled_while_the_about_window_is_active(self):
         import pyatspi
 
         def menu_items():
@@ -159,12 +159,12 @@ class About(unittest.TestCase):
 
         window = self.open_by_keyboard()
         output("xdotool", "windowactivate", "--sync", self.main_window)
-        wait_for(lambda: self.active_window() == self.main_window, "the main window in front")
+        wait_for(lambda: self.active_window() == self.main_window, "the active main window")
         self.open_menu()
         before = menu_items()
         self.assertIn(("Fenster schließen", True), before)
         output("xdotool", "windowactivate", "--sync", window)
-        wait_for(lambda: self.active_window() == window, "the About window in front")
+        wait_for(lambda: self.active_window() == window, "the active About window")
         self.assertEqual(menu_items(), before)
         self.program.press("Fenster schließen")
         self.assertEqual(self.program.wait_for_exit(), (0, ""))

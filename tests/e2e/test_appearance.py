@@ -45,7 +45,7 @@ class Appearance(unittest.TestCase):
         settings = self.desktop.home / ".config"
         settings.mkdir()
         file = settings / "kdeglobals"
-        # Qt ignores the other colours if those of buttons are missing.
+        # Qt ignores the colours of views and windows if the colours of buttons are missing.
         for part in ("Button", "View", "Window"):
             with file.open("a") as palette:
                 palette.write(f"[Colors:{part}]\n")

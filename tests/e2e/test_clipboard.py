@@ -1,9 +1,10 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The system clipboard in real time: a copy is cleared after 30 s and confirmed for 1.4 s.
+"""The system clipboard in real time.
 
-The scenarios that take 30 s run in parallel, each on its own desktop.
+The program clears a copied secret after 30 s and confirms a copy for 1.4 s. The scenarios that take
+30 s run in parallel, each on its own desktop.
 """
 
 import concurrent.futures
@@ -20,13 +21,13 @@ from desktop import DEADLINE, Desktop, Program, find_first, key, output, role_na
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
 
 CLEAR_DELAY = 30.0
-"""Seconds after which a copied value is cleared."""
+"""Seconds after which a copied secret is cleared."""
 
 CONFIRMATION = 1.4
 """Seconds for which the button confirms a copy."""
 
 TOLERANCE = 3.0
-"""Seconds that the clearing may be late on a busy machine."""
+"""Seconds by which the clearing may be late on a busy machine."""
 
 SECRET = r"[A-Za-z0-9!@#$%&*+\-=?_~]{10}"
 SECRET_HINT = "x-kde-passwordManagerHint"
@@ -54,7 +55,7 @@ class Session:
         ).stdout
 
     def offer(self, text, *command):
-        """Runs a command that reads the text and offers it from the background."""
+        """Runs a command that reads the text and puts the text on the clipboard."""
         subprocess.run(
             command,
             env=self.environment,
@@ -81,7 +82,7 @@ class Session:
         raise AssertionError("no secret on the clipboard")
 
     def close(self):
-        """Ends the program, which must have written nothing to standard error, and the desktop."""
+        """Ends the program and the desktop; fails if the program has written to standard error."""
         try:
             if self.program.process.poll() is None:
                 self.program.process.terminate()
@@ -119,7 +120,7 @@ class X11Session(Session):
 
     def formats(self):
         targets = self.run("xclip", "-o", "-selection", "clipboard", "-t", "TARGETS").split()
-        # X11's protocol targets and its own names for plain text say nothing about the contents.
+        # Protocol targets and X11's own names for plain text do not describe the contents.
         return {
             target
             for target in targets
@@ -159,7 +160,7 @@ class WaylandSession(Session):
         self.run("swaymsg", "--quiet", "--", *words)
 
     def start(self):
-        """Waits until the window exists; `copy` repeats until the window has the keyboard focus."""
+        """Waits for the window; `copy` repeats the shortcut until the window has keyboard focus."""
         wait_for(
             lambda: f'"app_id": "{APPLICATION}"' in self.run("swaymsg", "-t", "get_tree"),
             "a window",
@@ -195,16 +196,16 @@ class WaylandSession(Session):
 
 
 def wait_until_cleared(session):
-    """Returns the time at which the clipboard was first seen empty."""
+    """Waits until the clipboard stays empty; returns the time of the first empty reading."""
     end = time.monotonic() + 2 * CLEAR_DELAY
-    seen_empty = []
+    empty_readings = []
     # The clipboard can be empty for a moment while a new owner replaces the text.
-    while len(seen_empty) < 3:
+    while len(empty_readings) < 3:
         if time.monotonic() > end:
             raise AssertionError("the clipboard is not cleared")
         time.sleep(0.1)
-        seen_empty = [] if session.text() else [*seen_empty, time.monotonic()]
-    return seen_empty[0]
+        empty_readings = [] if session.text() else [*empty_readings, time.monotonic()]
+    return empty_readings[0]
 
 
 def assert_cleared_in_time(elapsed):
@@ -248,9 +249,9 @@ def same_text_of_another_program_stays(session):
 def second_copy_restarts_the_30_seconds(session):
     start = session.copy()
     time.sleep(max(0, start + CLEAR_DELAY - 1 - time.monotonic()))
-    again = time.monotonic()
+    second_start = time.monotonic()
     session.press_copy()
-    assert_cleared_in_time(wait_until_cleared(session) - again)
+    assert_cleared_in_time(wait_until_cleared(session) - second_start)
 
 
 def copy_is_cleared_while_another_window_is_active(session):
@@ -288,14 +289,14 @@ class ParallelScenarios:
     """A mixin for test cases: `setUpClass` starts all scenarios, each on its own desktop."""
 
     cases = ()
-    """Pairs of a subclass of Session and a scenario, which is a function of a session."""
+    """Pairs of a subclass of Session and a scenario, which is a function that takes a session."""
 
     @classmethod
     def setUpClass(cls):
         workers = concurrent.futures.ThreadPoolExecutor(len(cls.cases))
         cls.addClassCleanup(workers.shutdown)
         cls.results = []
-        # A desktop changes the environment of this process, so one desktop starts after the other.
+        # Each desktop changes the environment of this process, so the desktops start in sequence.
         with mock.patch.dict(os.environ):
             for session_type, scenario in cls.cases:
                 session = session_type()
@@ -328,7 +329,7 @@ class Copying(unittest.TestCase):
 
     def test_a_click_copies_and_is_confirmed_for_1_4_seconds(self):
         with Program(self.desktop) as program:
-            secret = program.value()
+            secret = program.secret()
             start = time.monotonic()
             program.click("Kopieren", "button")
             wait_for(lambda: self.find_button(program, "Kopiert"), "the confirmation")
@@ -339,7 +340,7 @@ class Copying(unittest.TestCase):
     def test_a_second_copy_does_not_prolong_the_confirmation_of_the_first(self):
         with Program(self.desktop) as program:
             program.find(lambda a: a.name == "Kopieren", "the window")
-            program.activate()
+            program.ensure_keyboard_focus()
 
             def confirmation_ends_early():
                 key("ctrl+shift+c")
@@ -350,10 +351,10 @@ class Copying(unittest.TestCase):
                 wait_for(lambda: self.find_button(program, "Kopieren"), "the button's normal label")
                 return time.monotonic() - second < CONFIRMATION
 
-            # On a busy machine the test can notice the end of a confirmation late, but never early.
+            # A busy machine can only delay the measured end of a confirmation.
             wait_for(confirmation_ends_early, "a confirmation that is not prolonged")
 
-    def test_copying_without_a_secret_leaves_the_clipboard_alone(self):
+    def test_copying_without_a_secret_does_not_change_the_clipboard(self):
         subprocess.run(
             ["xclip", "-i", "-selection", "clipboard"],
             input="vorher",
@@ -363,7 +364,7 @@ class Copying(unittest.TestCase):
         )
         with Program(self.desktop, preload=os.environ["MORVANE_FAILING_RANDOM"]) as program:
             program.find(lambda a: a.name == "Einstellung prüfen", "the alert")
-            program.activate()
+            program.ensure_keyboard_focus()
             key("Escape")
             wait_for(
                 lambda: not find_first(
@@ -372,7 +373,7 @@ class Copying(unittest.TestCase):
                 "no alert",
             )
             key("ctrl+shift+c", "F10")
-            # The program has handled the first key when the second one has opened the menu.
+            # The program handles keys in order: the menu opens after the shortcut has been handled.
             program.find(lambda a: a.name == "Morvane beenden", "the menu")
             self.assertIsNone(self.find_button(program, "Kopiert"))
             self.assertEqual(self.clipboard(), "vorher")
@@ -380,7 +381,7 @@ class Copying(unittest.TestCase):
     def test_quitting_clears_the_clipboard(self):
         with Program(self.desktop) as program:
             program.find(lambda a: a.name == "Kopieren", "the window")
-            program.activate()
+            program.ensure_keyboard_focus()
             key("ctrl+shift+c")
             wait_for(lambda: re.fullmatch(SECRET, self.clipboard()), "a secret on the clipboard")
             key("ctrl+q")

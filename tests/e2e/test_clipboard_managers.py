@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The system clipboard together with clipboard managers and with a compositor that acts as one.
+"""The clipboard with clipboard managers and with Weston, which acts as a clipboard manager.
 
 The scenarios run in parallel, each on its own desktop.
 """
@@ -33,7 +33,7 @@ from test_clipboard import (
 from wayland import disable_leak_detection, find_socket
 
 HANDOVER_TIMEOUT = 5.0
-"""Seconds that Qt waits, when a program ends, until a clipboard manager has read the contents."""
+"""Seconds for which Qt waits at most, when a program ends, for a clipboard manager's request."""
 
 IGNORE_SECRETS = r"""[Commands]
 1\Automatic=true
@@ -43,9 +43,9 @@ IGNORE_SECRETS = r"""[Commands]
 1\Remove=true
 size=1
 """
-"""An automatic command of CopyQ. CopyQ 6.4 needs it, CopyQ 10 ignores secrets by itself."""
+"""A command of CopyQ 6.4 for ignoring secrets. CopyQ 10 ignores secrets without this command."""
 
-NAMES = """
+PRINT_NAMES = """
 import desktop, pyatspi
 for program in pyatspi.Registry.getDesktop(0):
     print(*(accessible.name for accessible in desktop.showing_objects(program)), sep="\\n")
@@ -54,7 +54,7 @@ for program in pyatspi.Registry.getDesktop(0):
 
 
 def version(package):
-    """The version of a Debian package as numbers; higher than any other if not installed."""
+    """The version of a Debian package as numbers; a maximum if the package is not installed."""
     answer = output("dpkg-query", "--show", "--showformat", "${Version}", package)
     found = re.match(r"(?:\d+:)?(\d+(?:\.\d+)*)", answer)
     return tuple(map(int, found[1].split("."))) if found else (sys.maxsize,)
@@ -87,7 +87,7 @@ class ManagedSession(X11Session):
         numbers = itertools.count()
 
         def is_recorded():
-            # The manager never records the text that is on the clipboard when it starts.
+            # A manager never records a text that was on the clipboard before the manager started.
             self.ordinary_text = f"ohne Kennzeichen {next(numbers)}"
             self.write(self.ordinary_text)
             time.sleep(0.5)
@@ -113,7 +113,7 @@ class ManagedSession(X11Session):
         return self.run("xclip", "-o", "-selection", "primary")
 
     def quit(self):
-        """Quits the program by its shortcut; returns how many seconds the program takes to end."""
+        """Quits the program by its shortcut; returns the seconds until the program has ended."""
         start = time.monotonic()
         self.run("xdotool", "key", "ctrl+q")
         status, errors = self.program.wait_for_exit()
@@ -134,7 +134,7 @@ class ManagedSession(X11Session):
 
 
 class Clipman(ManagedSession):
-    """Clipman records every text, also secrets, and restores the last one when it is removed."""
+    """Clipman records every text, including secrets, and restores the text of an ended program."""
 
     command = ("xfce4-clipman",)
 
@@ -158,7 +158,7 @@ class CopyQ(ManagedSession):
         return text in self.run("copyq", "read", *newest).splitlines()
 
     def end_manager(self):
-        self.run("copyq", "exit")  # writes the history
+        self.run("copyq", "exit")  # CopyQ writes its history when it exits
         self.manager.wait()
 
 
@@ -185,7 +185,7 @@ class SettingsDaemon(ManagedSession):
 
 
 class WestonDesktop(Desktop):
-    """Weston in a window of an X server, because xdotool can press keys there."""
+    """Weston in a window of an X server, so that xdotool can press keys."""
 
     def _start_display(self):
         super()._start_display()
@@ -206,16 +206,16 @@ class Weston(WaylandSession):
         self.environment["PYTHONPATH"] = str(pathlib.Path(__file__).parent)
 
     def start(self):
-        """Waits for nothing: `press_copy` waits for the keyboard focus."""
+        """Returns at once, because `press_copy` waits for the keyboard focus."""
 
     def press_copy(self):
-        self.activate()
+        self.wait_for_keyboard_focus()
         self.run("xdotool", "key", "ctrl+shift+c")
 
-    def activate(self):
+    def wait_for_keyboard_focus(self):
         """Waits until a key press has reached the window.
 
-        Whenever wl-paste reads the clipboard, the window loses the focus for about a second.
+        The window loses the keyboard focus for about a second when wl-paste reads the clipboard.
         """
         before = wait_for(self.secrets, "a visible secret")
 
@@ -226,16 +226,16 @@ class Weston(WaylandSession):
         wait_for(has_changed, "another visible secret")
 
     def has_recorded(self, _text):
-        """Always true: Weston requests a copied text before a test can, and the program answers
-        requests in order."""
+        """Always true: Weston requests a copied text before a test can request the text, and the
+        program answers requests in order."""
         return True
 
     def secrets(self):
         """The shown secret and the history.
 
-        A child process reads them, because AT-SPI connects a process to one accessibility bus only.
+        A child process reads the names, because AT-SPI connects each process to one bus only.
         """
-        names = self.run(sys.executable, "-B", "-W", "ignore", "-c", NAMES).splitlines()
+        names = self.run(sys.executable, "-B", "-W", "ignore", "-c", PRINT_NAMES).splitlines()
         return [name for name in names if re.fullmatch(SECRET, name)]
 
 
@@ -273,7 +273,7 @@ def cleared_secret_is_restored_when_the_program_ends(session):
 
 def compositor_does_not_restore_a_cleared_secret(session):
     session.copy()
-    session.activate()
+    session.wait_for_keyboard_focus()
     # Reading the clipboard would take the keyboard focus from the window, so the test only waits.
     time.sleep(CLEAR_DELAY + TOLERANCE)
     assert_stays_empty(session)
@@ -319,7 +319,7 @@ def manager_takes_over_the_secret_when_the_program_ends(session):
         session.start_again()
         return False
 
-    wait_for(is_taken_over, "the secret, offered by the manager", 2 * DEADLINE)
+    wait_for(is_taken_over, "a secret that the manager has taken over", 2 * DEADLINE)
 
 
 def assert_stays_empty(session):

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Every control of the main window, used with pointer and keys."""
+"""Tests that use every control of the main window by pointer and keyboard."""
 
 import re
 import subprocess
@@ -26,9 +26,9 @@ class Controls(unittest.TestCase):
         before = self.program.history()
         action()
         secret = wait_for(
-            lambda: self.program.history() != before and self.program.value(), "another secret"
+            lambda: self.program.history() != before and self.program.secret(), "another secret"
         )
-        # A second secret would have moved the history by another row.
+        # A further new secret would have moved the history by another row.
         self.assertEqual(self.program.history(), ([secret] + before)[:4])
         if pattern:
             self.assertRegex(secret, pattern)
@@ -74,7 +74,7 @@ class Controls(unittest.TestCase):
             self.assert_one_new_secret(lambda: key(keys), rf"^\S{{{length}}}$")
 
     def test_tab_reaches_the_controls(self):
-        # The focus moves from the mode picker to the slider and to the first switch.
+        # Tab reaches the segmented control of the mode, then the slider, then the first switch.
         key("Tab", "Tab", "Tab")
         self.assert_one_new_secret(lambda: key("space"), r"^[^a-z]{10}$")
         key("shift+Tab", "shift+Tab")
@@ -96,7 +96,7 @@ class Controls(unittest.TestCase):
     def test_the_alert_opens_and_closes(self):
         for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen"):
             self.assert_one_new_secret(lambda: self.program.click(name))
-        last = self.program.value()
+        last = self.program.secret()
         self.program.click("Sonderzeichen")
         self.program.find(lambda a: a.name == "Einstellung prüfen", "the alert")
         self.program.find(
@@ -108,7 +108,7 @@ class Controls(unittest.TestCase):
             is None,
             "a closed alert",
         )
-        self.assertEqual(self.program.value(), last)
+        self.assertEqual(self.program.secret(), last)
         self.assert_one_new_secret(lambda: self.program.click("Zahlen"), r"^[2-9]{10}$")
 
     def test_a_click_on_the_third_history_row_shows_its_secret(self):
@@ -120,7 +120,7 @@ class Controls(unittest.TestCase):
         )
         self.assertEqual(row.description, "Holt diesen Wert zurück in die Anzeige.")
         self.program.click(rows[2])
-        wait_for(lambda: self.program.value() == rows[2], "the third secret in the display")
+        wait_for(lambda: self.program.secret() == rows[2], "the third secret in the display")
         self.assertEqual(self.program.history(), rows)
 
     def test_dragging_moves_the_slider_to_its_end(self):
@@ -133,7 +133,7 @@ class Controls(unittest.TestCase):
         for step in range(left, left + 260, 4):
             subprocess.run(["xdotool", "mousemove", str(step), str(y)], check=True)
         subprocess.run(["xdotool", "mouseup", "1"], check=True)
-        wait_for(lambda: re.fullmatch(r"\S{64}", self.program.value() or ""), "64 characters")
+        wait_for(lambda: re.fullmatch(r"\S{64}", self.program.secret() or ""), "64 characters")
 
     def test_the_secret_and_its_rating_are_announced(self):
         import pyatspi
@@ -157,7 +157,7 @@ class Controls(unittest.TestCase):
             self.program.press("Neu erzeugen")
             return has_announced(r"\S{10}")
 
-        # Qt sends no events before the accessibility bus has reported the listener.
+        # Qt sends no accessibility events until the accessibility bus has announced the listener.
         wait_for(announces_another_secret, "an event with the secret")
         self.program.set_slider("Länge", 15)
         wait_for(

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Long use: constant memory over thousands of secrets, and a random source that fails."""
+"""Constant memory over thousands of secrets, and recovery after the random source has failed."""
 
 import mmap
 import os
@@ -15,13 +15,13 @@ import unittest
 from desktop import PROGRAM, Desktop, Program, find_first, qt_version, wait_for
 
 TOLERANCE = 1024
-"""KiB by which memory may grow in total. One leaked object per repetition takes more."""
+"""KiB by which the memory may grow. A leak of one object per repetition exceeds this limit."""
 
 ALERT = "Einstellung prüfen"
 
 
 class RandomSource:
-    """Controls FailingRandom.cpp, through a page of memory shared with the program."""
+    """Controls the library FailingRandom through a page of memory shared with the program."""
 
     def __init__(self):
         self._file = tempfile.NamedTemporaryFile(prefix="morvane-e2e-")
@@ -38,7 +38,7 @@ class RandomSource:
 
     @property
     def draws(self):
-        """How often the program has drawn random bytes."""
+        """The number of times that the program has drawn random bytes."""
         return struct.unpack_from("=Q", self._page, 0)[0]
 
     def set_failing(self, fails):
@@ -63,8 +63,8 @@ class RandomSourceTest(unittest.TestCase):
         self.source = RandomSource()
         self.addCleanup(self.source.close)
         self.program = self.enterContext(self.source.start_program(self.desktop))
-        self.program.activate()
-        self.secret = wait_for(self.program.value, "a secret")
+        self.program.ensure_keyboard_focus()
+        self.secret = wait_for(self.program.secret, "a secret")
 
     def quit(self):
         self.program.key("ctrl+q")
@@ -72,25 +72,25 @@ class RandomSourceTest(unittest.TestCase):
 
 
 class Endurance(RandomSourceTest):
-    def press_repeatedly(self, times, chords, draws):
-        """Presses keys repeatedly; waits until the program has made this many draws each time."""
+    def press_repeatedly(self, times, combinations, draws):
+        """Presses keys `times` times; waits for `times * draws` draws and asserts this number."""
         expected = self.source.draws + times * draws
-        keys = ["xdotool", "key", "--delay", "0", "--repeat", str(times), *chords]
+        keys = ["xdotool", "key", "--delay", "0", "--repeat", str(times), *combinations]
         subprocess.run(keys, check=True)
-        wait_for(lambda: self.source.draws >= expected, f"{expected} draws after {chords}")
+        wait_for(lambda: self.source.draws >= expected, f"{expected} draws after {combinations}")
         self.assertEqual(self.source.draws, expected)
 
-    def count_draws(self, *chords):
-        """Presses keys, each of which generates a secret; returns how often the program draws."""
+    def count_draws(self, *combinations):
+        """Presses keys, each of which generates a secret; returns the number of draws."""
         start, history = self.source.draws, self.program.history()
-        for chord in chords:
-            self.program.key(chord)
+        for combination in combinations:
+            self.program.key(combination)
             wait_for(lambda: self.program.history() != history, "another secret")
             history = self.program.history()
         return self.source.draws - start
 
     def memory(self):
-        """The program's memory in KiB without mapped files, once it has stopped changing."""
+        """The program's memory in KiB without mapped files, once the size has stopped changing."""
         status = pathlib.Path(f"/proc/{self.program.process.pid}/status")
         sizes = []
 
@@ -104,7 +104,10 @@ class Endurance(RandomSourceTest):
         return sizes[-1]
 
     def assert_no_growth(self, repetitions, repeat, tolerance=TOLERANCE):
-        """Memory grows by less than `tolerance` KiB. A tenth of the repetitions warm up."""
+        """Calls of `repeat` increase the memory by less than `tolerance` KiB.
+
+        A tenth of the repetitions precede the first measurement as a warm-up.
+        """
         for _ in range(repetitions // 10):
             repeat()
         before = self.memory()
@@ -112,7 +115,7 @@ class Endurance(RandomSourceTest):
             repeat()
         after = self.memory()
         print(f"{before} KiB, then {after} KiB", end=" ... ", flush=True)
-        # AddressSanitizer delays the reuse of freed memory.
+        # With AddressSanitizer, memory grows because the reuse of freed memory is delayed.
         if b"__asan_init" not in pathlib.Path(PROGRAM).read_bytes():
             self.assertLess(after - before, tolerance)
 
@@ -120,7 +123,7 @@ class Endurance(RandomSourceTest):
         draws = self.count_draws("ctrl+r")
         self.assertGreater(draws, 0)
         self.assert_no_growth(200, lambda: self.press_repeatedly(50, ["ctrl+r"], draws))
-        self.assertNotEqual(self.program.value(), self.secret)
+        self.assertNotEqual(self.program.secret(), self.secret)
         self.quit()
 
     def test_a_thousand_mode_changes(self):
@@ -128,11 +131,11 @@ class Endurance(RandomSourceTest):
         draws = self.count_draws("Right", "Left")
         # Qt 6.4 leaks 5 KiB for the switches that each change creates while accessibility is on.
         tolerance = 1000 * 6 if qt_version() < (6, 5) else TOLERANCE
-        # Each change is awaited before the next one, so that Qt's deferred deletions can run.
+        # The test waits after each repetition, so that Qt's deferred deletions can run.
         self.assert_no_growth(
             500, lambda: self.press_repeatedly(1, ["Right", "Left"], draws), tolerance
         )
-        self.assertRegex(self.program.value(), r"^\S{10}$")
+        self.assertRegex(self.program.secret(), r"^\S{10}$")
         self.quit()
 
 
@@ -150,10 +153,10 @@ class Failure(RandomSourceTest):
             == "Der sichere Zufallsgenerator von macOS konnte nicht verwendet werden.",
             "the message",
         )
-        self.assertEqual((self.program.value(), self.program.history()), (self.secret, history))
+        self.assertEqual((self.program.secret(), self.program.history()), (self.secret, history))
         self.program.key("Return")
         wait_for(lambda: not self.alert(), "a closed alert")
-        self.assertEqual((self.program.value(), self.program.history()), (self.secret, history))
+        self.assertEqual((self.program.secret(), self.program.history()), (self.secret, history))
 
     def assert_succeeds(self, action, pattern):
         """The action generates another secret and opens no alert."""
@@ -161,9 +164,9 @@ class Failure(RandomSourceTest):
         action()
         wait_for(lambda: self.program.history() != history, "another secret")
         self.assertIsNone(self.alert())
-        self.assertNotEqual(self.program.value(), self.secret)
-        self.assertRegex(self.program.value(), pattern)
-        self.secret = self.program.value()
+        self.assertNotEqual(self.program.secret(), self.secret)
+        self.assertRegex(self.program.secret(), pattern)
+        self.secret = self.program.secret()
 
     def test_a_random_source_that_fails_temporarily(self):
         def regenerate():

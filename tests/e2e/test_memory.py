@@ -1,10 +1,10 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Core dumps leave out the program's memory, and other processes of the user cannot read it.
+"""The program writes no core dump, and other processes of the user cannot read its memory.
 
-The desktop portal refuses calls of a process that is hidden in this way, so the program hides its
-memory after the portal has answered.
+For this, the program's process is not dumpable. The desktop portal refuses calls of such a process,
+so the process becomes not dumpable after the portal has answered.
 """
 
 import os
@@ -34,7 +34,7 @@ try:
 except dbus.DBusException as error:
     print(error.get_dbus_name())
 """
-"""A program that reads the portal's settings; with the argument 0, its process is hidden."""
+"""A program that reads the portal's settings; with the argument 0, its process is not dumpable."""
 
 
 class Memory(unittest.TestCase):
@@ -43,9 +43,10 @@ class Memory(unittest.TestCase):
         cls.desktop = Desktop()
         cls.addClassCleanup(cls.desktop.close)
 
-    def assert_hidden(self, program):
+    def assert_not_dumpable(self, program):
         process = pathlib.Path(f"/proc/{program.process.pid}")
-        wait_for(lambda: (process / "maps").stat().st_uid != os.geteuid(), "a hidden process")
+        maps = process / "maps"
+        wait_for(lambda: maps.stat().st_uid != os.geteuid(), "a process that is not dumpable")
         with self.assertRaises(PermissionError):
             (process / "mem").open("rb")
         limits = resource.prlimit(program.process.pid, resource.RLIMIT_CORE)
@@ -56,26 +57,26 @@ class Memory(unittest.TestCase):
         program.save_screenshot(screenshot)
         return output("convert", str(screenshot), "-format", "#%[hex:u.p{12,12}]", "info:")[:7]
 
-    def test_is_hidden_without_a_portal(self):
+    def test_is_not_dumpable_without_a_portal(self):
         with Program(self.desktop) as program:
             program.window()
-            self.assert_hidden(program)
+            self.assert_not_dumpable(program)
 
-    def test_is_hidden_without_a_bus(self):
+    def test_is_not_dumpable_without_a_session_bus(self):
         no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
         with Program(self.desktop, variables=no_bus) as program:
             program.window()
-            self.assert_hidden(program)
+            self.assert_not_dumpable(program)
 
-    def test_is_hidden_after_the_portal_has_answered(self):
+    def test_is_not_dumpable_after_the_portal_has_answered(self):
         with Portal() as portal:
             portal.set(APPEARANCE, "color-scheme", 1)
             with Program(self.desktop) as program:
                 wait_for(lambda: self.background(program) == DARK, "the portal's colour scheme")
-                self.assert_hidden(program)
+                self.assert_not_dumpable(program)
 
-    def test_the_mock_portal_refuses_a_hidden_process(self):
-        """Without this refusal, the test above would pass with a program that hides too early."""
+    def test_the_mock_portal_refuses_a_process_that_is_not_dumpable(self):
+        """Shows that the test above fails if the program is not dumpable from the start."""
         with Portal():
             answers = [
                 subprocess.run(
@@ -90,7 +91,10 @@ class Memory(unittest.TestCase):
 
 
 def run_as_nobody():
-    """Runs these tests as a user without root's privileges; returns the exit status."""
+    """Runs these tests as the user nobody, because root can read the memory of every process.
+
+    Returns the exit status.
+    """
     nobody = 65534
     with tempfile.TemporaryDirectory(prefix="morvane-e2e-") as name:
         folder = pathlib.Path(name)

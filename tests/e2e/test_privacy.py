@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""strace shows that the program stores and sends nothing while all of its functions are used."""
+"""The system calls of the program store and send nothing while all of its functions are used."""
 
 import os
 import pathlib
@@ -28,7 +28,7 @@ PROGRAMS = {
 }
 
 CLEAR_DELAY = 30.0
-"""Seconds after which a copied value is cleared."""
+"""Seconds after which a copied secret is cleared."""
 
 ALERT = "Einstellung prüfen"
 ABOUT = "Über Morvane"
@@ -46,8 +46,8 @@ class Session:
         return output("timeout", "10", *self.clipboard_command)
 
     def run(self):
-        """Uses the program from the first window until the program has ended."""
-        self.program.activate()
+        """Uses the program from its first window until its end."""
+        self.program.ensure_keyboard_focus()
         self.generate_and_copy()
         self.change_password_settings()
         self.open_and_close_the_alert()
@@ -66,11 +66,11 @@ class Session:
 
     def generate_and_copy(self):
         self.program.click("Kopieren", "button")
-        wait_for(lambda: self.clipboard() == self.program.value(), "the first copy")
+        wait_for(lambda: self.clipboard() == self.program.secret(), "the first copy")
         self.generate(lambda: self.program.click("Neu erzeugen"))
         self.generate(lambda: self.program.key("ctrl+r"))
         self.program.key("ctrl+shift+c")
-        wait_for(lambda: self.clipboard() == self.program.value(), "the second copy")
+        wait_for(lambda: self.clipboard() == self.program.secret(), "the second copy")
 
     def change_password_settings(self):
         self.generate(lambda: self.program.set_slider("Länge", 24))
@@ -91,7 +91,7 @@ class Session:
     def restore_from_the_history(self):
         row = self.program.history()[2]
         self.program.click(row, "button")
-        wait_for(lambda: self.program.value() == row, "the third secret in the display")
+        wait_for(lambda: self.program.secret() == row, "the third secret in the display")
 
     def change_passphrase_settings(self):
         self.generate(lambda: self.program.click("Passphrase"))
@@ -118,7 +118,7 @@ class Session:
             lambda: not find_first(self.program.accessible(), lambda a: a.name == ABOUT),
             "no About window",
         )
-        self.program.activate()
+        self.program.ensure_keyboard_focus()
 
     @staticmethod
     def wait_until_active(window):
@@ -131,7 +131,7 @@ class Privacy(unittest.TestCase):
     desktop_type, program_type, session_type = Desktop, Program, Session
     variables = {}
     libraries = {"libQt6XcbQpa"}
-    """Libraries that the program loads if it uses the intended platform and graphics driver."""
+    """Libraries that are loaded only with the expected platform plugin and graphics driver."""
 
     @classmethod
     def setUpClass(cls):
@@ -146,7 +146,7 @@ class Privacy(unittest.TestCase):
         )
 
     def peers(self):
-        """The sockets of the display and of the buses."""
+        """The addresses of the sockets of the X server and of the buses."""
         number = os.environ["DISPLAY"].partition(":")[2]
         return {f"@/tmp/.X11-unix/X{number}", *self.buses()}
 
@@ -159,9 +159,9 @@ class Privacy(unittest.TestCase):
     def test_stores_and_sends_nothing(self):
         for name, program in PROGRAMS.items():
             with self.subTest(name):
-                self.check(name, program)
+                self.assert_no_violations(name, program)
 
-    def check(self, name, program):
+    def assert_no_violations(self, name, program):
         ARTIFACTS.mkdir(parents=True, exist_ok=True)
         log = ARTIFACTS / f"{type(self).__name__}-{name}.strace"
         with self.program_type(

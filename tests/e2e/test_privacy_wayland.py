@@ -3,7 +3,7 @@
 
 """The test of test_privacy.py on Wayland.
 
-A file of its own, because AT-SPI connects a process to the first accessibility bus only.
+The test has its own file, because AT-SPI connects a process to the first accessibility bus only.
 """
 
 import os
@@ -20,7 +20,7 @@ class WaylandSession(test_privacy.Session):
 
 class PrivacyOnWayland(test_privacy.Privacy):
     desktop_type, program_type, session_type = WaylandDesktop, WaylandProgram, WaylandSession
-    # Of the drivers that need no graphics card, zink is the one that writes a shader cache.
+    # Among the drivers that need no graphics card, only zink writes a shader cache.
     variables = {"GALLIUM_DRIVER": "zink", "LIBGL_ALWAYS_SOFTWARE": "1"}
     # Qt 6.4 loads a graphics driver although the program draws in software, Qt 6.8 does not.
     libraries = {"libQt6WaylandClient"} | ({"libvulkan_lvp"} if qt_version() < (6, 8) else set())

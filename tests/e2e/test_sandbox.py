@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The sandbox blocks forbidden operations, which a library attempts in every thread."""
+"""The sandbox blocks forbidden operations, which SandboxProbe attempts in every thread."""
 
 import collections
 import errno
@@ -19,7 +19,7 @@ PROBE = os.environ["MORVANE_SANDBOX_PROBE"]
 OLD_KERNEL = os.environ["MORVANE_OLD_KERNEL"]
 UNSANDBOXED = os.environ["MORVANE_UNSANDBOXED_PROGRAM"]
 
-# Operations that every machine allows without a sandbox.
+# Forbidden operations that succeed without a sandbox on every machine.
 ALWAYS_ALLOWED = {"exec", "ptrace", "internet"}
 FILE_CHANGES = {
     *("create", "write", "append", "rename", "link", "symlink", "mkdir", "rmdir", "mkfifo"),
@@ -38,20 +38,21 @@ class Sandbox(unittest.TestCase):
     def setUpClass(cls):
         cls.desktop = Desktop()
         cls.addClassCleanup(cls.desktop.close)
-        (cls.desktop.home / "file").write_text("untouched", encoding="utf-8")
+        (cls.desktop.home / "file").write_text("unchanged", encoding="utf-8")
         (cls.desktop.home / "folder").mkdir()
 
     def run_probe(self, **options):
         """Runs the program with the probe.
 
-        Returns a dictionary from each attempt to its results, pairs of a thread and an error number
-        (0 for success), and the program's /proc/PID/status.
+        Returns two results. The first result is a dictionary that contains, for each attempt, pairs
+        of a thread and an error number (0 for success). The second result is the text of the
+        program's /proc/PID/status.
         """
         with Program(self.desktop, preload=PROBE, **options) as program:
             program.window()
-            value = wait_for(program.value, "a secret")
+            secret = wait_for(program.secret, "a secret")
             key("ctrl+r")
-            wait_for(lambda: program.value() not in (None, value), "another secret")
+            wait_for(lambda: program.secret() not in (None, secret), "another secret")
             status = pathlib.Path(f"/proc/{program.process.pid}/status").read_text("utf-8")
             key("ctrl+q")
             exit_status, text = program.wait_for_exit()
@@ -62,7 +63,7 @@ class Sandbox(unittest.TestCase):
         for thread, attempt, error in re.findall(r"^probe (\S+) (\S+) (-?\d+)$", text, re.M):
             errors[attempt].append((thread, int(error)))
         self.assertEqual(errors.keys(), FILE_CHANGES | SYSTEM_CALLS | SOCKETS | PERMITTED)
-        # The main thread and those of the display and of the buses are running at this time.
+        # At this time, the threads of the display and of the buses run besides the main thread.
         self.assertGreaterEqual(len(errors["create"]), 3)
         self.assertEqual([line for line in lines if not line.startswith("probe ")], [])
         return errors, status
@@ -87,7 +88,7 @@ class Sandbox(unittest.TestCase):
         self.assertEqual(
             sorted(path.name for path in self.desktop.home.iterdir()), ["file", "folder"]
         )
-        self.assertEqual((self.desktop.home / "file").read_text("utf-8"), "untouched")
+        self.assertEqual((self.desktop.home / "file").read_text("utf-8"), "unchanged")
 
     def test_without_the_sandbox_every_attempt_succeeds(self):
         errors, _ = self.run_probe(program=UNSANDBOXED)
@@ -128,7 +129,7 @@ class Sandbox(unittest.TestCase):
             }
             with Program(self.desktop, program=program, variables=variables) as running:
                 running.window()
-                wait_for(running.value, "a secret")
+                wait_for(running.secret, "a secret")
                 key("ctrl+q")
                 self.assertEqual(running.wait_for_exit()[0], 0)
             return {str(path.relative_to(folder)) for path in set(folder.rglob("*")) - before}

@@ -50,7 +50,7 @@ class Wayland(unittest.TestCase):
             self.desktop.kill(window)
             self.assertEqual(program.wait_for_exit(), (0, ""))
 
-    def test_a_dock_finds_the_desktop_entry_by_the_id_of_the_window(self):
+    def test_the_application_id_names_the_desktop_entry(self):
         with WaylandProgram(self.desktop) as program:
             entry = PACKAGING / f"{program.window()['app_id']}.desktop"
             self.assertTrue(entry.is_file(), entry)
@@ -65,7 +65,7 @@ class Wayland(unittest.TestCase):
 
     def test_a_shortcut_generates_another_password(self):
         with WaylandProgram(self.desktop) as program:
-            program.activate()
+            program.ensure_keyboard_focus()
             password = program.find(is_password, "a password").name
             self.desktop.key("ctrl+r")
             self.wait_for_another_password(program, password)
@@ -111,8 +111,8 @@ class Wayland(unittest.TestCase):
 class SameRendering(unittest.TestCase):
     """Glyphs are cut off if they are measured at one scale and drawn at another."""
 
-    SETTINGS = "540x1180+10+20"
-    """The left panel at scale 2 without the window's edge. The panel shows no secret."""
+    LEFT_PANEL = "540x1180+10+20"
+    """The left panel at scale 2 without the window's edge; only the right panel shows a secret."""
 
     def test_scale_2_is_rendered_as_on_x11(self):
         x11, wayland = ARTIFACTS / "x11-2.png", ARTIFACTS / "wayland-2-settings.png"
@@ -138,12 +138,12 @@ class SameRendering(unittest.TestCase):
     def differing_pixels(self, *images):
         """The number of pixels of the left panel that differ."""
         result = subprocess.run(
-            ["compare", "-metric", "AE", "-extract", self.SETTINGS, *map(str, images), "null:"],
+            ["compare", "-metric", "AE", "-extract", self.LEFT_PANEL, *map(str, images), "null:"],
             stderr=subprocess.PIPE,
             text=True,
             check=False,
         )
-        # ImageMagick 7 can write a normalised number in parentheses after the absolute one.
+        # ImageMagick 7 can write a normalised number in parentheses after the absolute number.
         return int(result.stderr.split()[0])
 
 

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""A Wayland desktop for the program under test: sway with a headless output, and buses."""
+"""A Wayland desktop for the program under test: sway with a headless output, and D-Bus."""
 
 import json
 import os
@@ -109,7 +109,7 @@ class WaylandDesktop(Desktop):
         """Sway's tree of outputs, workspaces and windows."""
         return json.loads(output("swaymsg", "--raw", "--type", "get_tree"))
 
-    def views(self):
+    def window_nodes(self):
         """The nodes of the program's windows in the tree."""
         found, nodes = [], [self.tree()]
         while nodes:
@@ -119,11 +119,11 @@ class WaylandDesktop(Desktop):
                 found.append(node)
         return found
 
-    def view(self, process):
+    def visible_window(self, process):
         """The node of the visible window of a process."""
         return wait_for(
             lambda: next(
-                (node for node in self.views() if node["pid"] == process.pid and node["visible"]),
+                (n for n in self.window_nodes() if n["pid"] == process.pid and n["visible"]),
                 None,
             ),
             "a visible window",
@@ -169,10 +169,10 @@ class WaylandDesktop(Desktop):
         self.press()
         self.release()
 
-    def key(self, *chords):
-        """Presses keys one after the other, each written like "Tab" or "ctrl+shift+r"."""
-        for chord in chords:
-            self._input.press_key(*chord.split("+"))
+    def key(self, *combinations):
+        """Presses key combinations such as "Tab" or "ctrl+shift+r", one after the other."""
+        for combination in combinations:
+            self._input.press_key(*combination.split("+"))
 
     def screenshot(self, name, node=None):
         """Saves an image of the output or of one window."""
@@ -184,13 +184,13 @@ class WaylandDesktop(Desktop):
 
 
 class WaylandProgram(Program):
-    """The program under test on a Wayland desktop. Use it in a `with` block, which ends it."""
+    """The program under test on a Wayland desktop; the end of a `with` block ends the program."""
 
     def window(self):
         """Sway's node of the window; waits until the window is visible."""
-        return self.desktop.view(self.process)
+        return self.desktop.visible_window(self.process)
 
-    def activate(self):
+    def ensure_keyboard_focus(self):
         """Gives the window the keyboard focus; waits until the program has received the focus."""
         import pyatspi
 
@@ -215,16 +215,17 @@ class WaylandProgram(Program):
     def click(self, name, role=None):
         self.desktop.click(*self.stable_centre(name, role))
 
-    def key(self, *chords):
-        self.desktop.key(*chords)
+    def key(self, *combinations):
+        self.desktop.key(*combinations)
 
 
 class VirtualInput:
     """A virtual pointer and a virtual keyboard, because a headless compositor has no input devices.
 
-    This class implements Wayland's wire protocol: no package of Debian 12 moves the pointer of a
-    headless compositor. The devices exist for the whole run, because a window loses the focus when
-    the last keyboard is removed.
+    This class implements Wayland's wire protocol, because no package of Debian 12 moves the pointer
+    of a headless compositor. The devices exist for the whole run, because a window loses the
+    keyboard focus when the last keyboard is removed. The protocol numbers its requests and events;
+    comments beside the numbers contain the names.
     """
 
     DISPLAY = 1
@@ -235,20 +236,20 @@ class VirtualInput:
         self._last_object = self.DISPLAY
         self._globals = {}
         self._registry = self._new_object()
-        self._request(self.DISPLAY, 1, self._registry)
+        self._request(self.DISPLAY, 1, self._registry)  # get_registry
         self._synchronize()
         seat = self._bind("wl_seat")
         pointers = self._bind("zwlr_virtual_pointer_manager_v1")
         keyboards = self._bind("zwp_virtual_keyboard_manager_v1")
         self._pointer = self._new_object()
-        self._request(pointers, 0, seat, self._pointer)
+        self._request(pointers, 0, seat, self._pointer)  # create_virtual_pointer
         self._keyboard = self._new_object()
-        self._request(keyboards, 0, seat, self._keyboard)
+        self._request(keyboards, 0, seat, self._keyboard)  # create_virtual_keyboard
         with os.fdopen(os.memfd_create("keymap"), "wb") as keymap:
             keymap.write(KEYMAP)
             keymap.flush()
             xkb_v1 = 1  # wl_keyboard.keymap_format
-            self._request(
+            self._request(  # keymap
                 self._keyboard, 0, xkb_v1, len(KEYMAP), descriptor=keymap.fileno()
             )
         self._synchronize()
@@ -257,15 +258,16 @@ class VirtualInput:
         self._socket.close()
 
     def move(self, x, y):
+        # motion_absolute
         self._request(self._pointer, 1, now(), round(x), round(y), WIDTH, HEIGHT)
         self._send_pointer_frame()
 
     def button(self, code, pressed):
-        self._request(self._pointer, 2, now(), code, int(pressed))
+        self._request(self._pointer, 2, now(), code, int(pressed))  # button
         self._send_pointer_frame()
 
     def _send_pointer_frame(self):
-        self._request(self._pointer, 4)
+        self._request(self._pointer, 4)  # frame
         self._synchronize()
 
     def press_key(self, *names):
@@ -285,9 +287,9 @@ class VirtualInput:
         self._synchronize()
 
     def _key(self, code, pressed, bits):
-        self._request(self._keyboard, 1, now(), code, int(pressed))
-        # A virtual keyboard sends the state of the modifiers itself.
-        self._request(self._keyboard, 2, bits, 0, 0, 0)
+        self._request(self._keyboard, 1, now(), code, int(pressed))  # key
+        # The compositor does not derive the modifiers' state from the keys of a virtual keyboard.
+        self._request(self._keyboard, 2, bits, 0, 0, 0)  # modifiers
 
     def _new_object(self):
         self._last_object += 1
@@ -299,7 +301,7 @@ class VirtualInput:
         new_object = self._new_object()
         name = interface.encode() + b"\0"
         padded = name + b"\0" * (-len(name) % 4)
-        self._request(
+        self._request(  # bind
             self._registry, 0, self._globals[interface], len(name), padded, 1, new_object
         )
         return new_object
@@ -318,15 +320,15 @@ class VirtualInput:
     def _synchronize(self):
         """Waits until the compositor has processed every request."""
         callback = self._new_object()
-        self._request(self.DISPLAY, 0, callback)
+        self._request(self.DISPLAY, 0, callback)  # sync
         while True:
             sender, opcode, body = self._event()
             if sender == callback:
                 return
-            if sender == self.DISPLAY and opcode == 0:
+            if sender == self.DISPLAY and opcode == 0:  # error
                 message = body[12:].rstrip(b"\0").decode(errors="replace")
                 raise AssertionError(f"the compositor reports an error: {message}")
-            if sender == self._registry and opcode == 0:
+            if sender == self._registry and opcode == 0:  # global
                 name, length = struct.unpack_from("=II", body)
                 self._globals[body[8 : 8 + length - 1].decode()] = name
 

@@ -44,7 +44,7 @@ class CursorImage(ctypes.Structure):
 
 
 def cursor_outline():
-    """The opaque pixels of the pointer's image as rows of text, without empty rows and columns."""
+    """The opaque pixels of the cursor as rows of text, without empty rows and columns."""
     x11 = ctypes.CDLL("libX11.so.6")
     fixes = ctypes.CDLL("libXfixes.so.3")
     x11.XOpenDisplay.restype = ctypes.c_void_p
@@ -81,14 +81,14 @@ def clipboard(target="UTF8_STRING"):
     return output("timeout", "2", "xclip", "-o", "-selection", "clipboard", "-t", target)
 
 
-class Frame(unittest.TestCase):
+class ClientSideDecorations(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.desktop = Desktop()
         cls.addClassCleanup(cls.desktop.close)
 
     def setUp(self):
-        # Outside of the new window, whose edges would change the pointer.
+        # The pointer starts outside of the new window, whose edges would change the cursor.
         move_pointer(0, 1700)
         self.program = self.enterContext(Program(self.desktop))
         self.program.find(lambda a: a.name == "Schließen", "the window")
@@ -96,7 +96,7 @@ class Frame(unittest.TestCase):
         subprocess.run(["xdotool", "windowmove", "--sync", self.window, "300", "200"], check=True)
         wait_for(lambda: self.geometry()[:2] == (300, 200), "the window at its position")
         self.move_pointer_to_background()
-        self.usual_pointer = cursor_outline()
+        self.usual_cursor = cursor_outline()
 
     def move_pointer_to_background(self):
         """Moves the pointer to the margin of the left panel."""
@@ -115,9 +115,9 @@ class Frame(unittest.TestCase):
         return output("xprop", "-id", self.window, "_NET_WM_STATE", "WM_STATE")
 
     def drag(self, start, end, is_expected):
-        """Drags from one point of the screen to another until the window's geometry is expected."""
+        """Drags from one point to another until `is_expected` accepts the window's geometry."""
         before = self.geometry()
-        # Far enough to begin a drag, but not farther than its end.
+        # The first moves go far enough to begin a drag, but not beyond its end.
         x, y = (a + max(-20, min(20, b - a)) for a, b in zip(start, end))
         small_moves = itertools.cycle(((x, y), (x + 1, y + 1)))
 
@@ -134,16 +134,16 @@ class Frame(unittest.TestCase):
     def resize(self, start, end, expected):
         """Drags an edge from one point of the screen to another.
 
-        The edge keeps its distance to the pointer once the window manager has begun to resize, so
-        the pointer does not move before the window manager has changed the pointer's shape.
+        Once the window manager has begun to resize, the edge keeps its distance to the pointer, so
+        the pointer does not move until the window manager has changed the cursor.
         """
         self.move_pointer_to_background()
-        wait_for(lambda: cursor_outline() == self.usual_pointer, "the usual pointer")
+        wait_for(lambda: cursor_outline() == self.usual_cursor, "the usual cursor")
         move_pointer(*start)
-        wait_for(lambda: cursor_outline() != self.usual_pointer, "a pointer for resizing")
-        pointers = (self.usual_pointer, cursor_outline())
+        wait_for(lambda: cursor_outline() != self.usual_cursor, "a cursor for resizing")
+        cursors = (self.usual_cursor, cursor_outline())
         with button_held():
-            wait_for(lambda: cursor_outline() not in pointers, "the window manager's pointer")
+            wait_for(lambda: cursor_outline() not in cursors, "the window manager's cursor")
             move_pointer(*end)
             wait_for(lambda: self.geometry() == expected, f"the geometry {expected}")
 
@@ -160,14 +160,14 @@ class Frame(unittest.TestCase):
         name = output("xprop", "-id", self.window, "_NET_WM_NAME")
         self.assertNotIn("File", name)
 
-    def test_the_window_class_is_the_one_of_the_desktop_entry(self):
+    def test_the_desktop_entry_names_the_window_class(self):
         info = output("xprop", "-id", self.window, "WM_CLASS")
         window_class = re.fullmatch(r'WM_CLASS\(STRING\) = ".*", "(.*)"\n', info)[1]
         entry = DESKTOP_ENTRY.read_text(encoding="utf-8").splitlines()
         self.assertIn(f"StartupWMClass={window_class}", entry)
 
     def test_every_edge_and_corner_resizes(self):
-        # Name, position as fractions of the window's size, pointer movement, change of geometry.
+        # Name, start as fractions of the window's size, movement, and change of the geometry.
         for name, at, by, change in (
             ("left", (0, 0.5), (-40, 0), (-40, 0, 40, 0)),
             ("right", (1, 0.5), (40, 0), (0, 0, 40, 0)),
@@ -193,7 +193,7 @@ class Frame(unittest.TestCase):
         start = (left + width - 1, top + height - 1)
         self.resize(start, (left + 200, top + 200), (left, top, 760, 610))
 
-    def test_edges_and_corners_change_the_pointer(self):
+    def test_edges_and_corners_change_the_cursor(self):
         left, top, width, height = self.geometry()
         move_pointer(left + width // 2, top + height // 2)
         outlines = {}
@@ -205,7 +205,7 @@ class Frame(unittest.TestCase):
         ):
             usual = cursor_outline()
             move_pointer(x, y)
-            wait_for(lambda: cursor_outline() != usual, f"another pointer at the {name}")
+            wait_for(lambda: cursor_outline() != usual, f"another cursor at the {name}")
             outlines[name] = cursor_outline()
         self.assertEqual(len({tuple(rows) for rows in outlines.values()}), 4)
         for name, x, y in (
@@ -215,19 +215,19 @@ class Frame(unittest.TestCase):
             ("top right", left + 1, top + height - 1),
         ):
             move_pointer(x, y)
-            wait_for(lambda: cursor_outline() == outlines[name], f"the pointer opposite {name}")
+            wait_for(lambda: cursor_outline() == outlines[name], f"the cursor opposite {name}")
         self.assertGreater(len(outlines["left"][0]), len(outlines["left"]))
         self.assertLess(len(outlines["top"][0]), len(outlines["top"]))
 
     def test_the_left_end_of_the_title_bar_moves_the_window(self):
-        self.assert_moves_by(140)
+        self.assert_moves_when_dragged_at(140)
 
     def test_the_middle_of_the_title_bar_moves_the_window(self):
-        self.assert_moves_by(500)
+        self.assert_moves_when_dragged_at(500)
 
-    def assert_moves_by(self, x):
+    def assert_moves_when_dragged_at(self, x):
         left, top, width, height = self.geometry()
-        # The window moves by less than the pointer, whose first pixels only begin the drag.
+        # The window moves less far than the pointer, whose first pixels only begin the drag.
         self.drag(
             (left + x, top + 12),
             (left + x + 150, top + 12 + 150),
@@ -304,7 +304,7 @@ class Frame(unittest.TestCase):
         self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
     def test_menu_items_select_and_copy_the_secret(self):
-        secret = self.program.value()
+        secret = self.program.secret()
         self.open_menu()
         self.program.click("Alles auswählen")
         wait_for(self.menu_is_closed, "a closed menu")
@@ -318,7 +318,7 @@ class Frame(unittest.TestCase):
         wait_for(lambda: "Iconic" in self.state(), "a minimised window")
         subprocess.run(["wmctrl", "-i", "-a", self.window], check=True)
         wait_for(lambda: "Normal" in self.state(), "the restored window")
-        secret = self.program.value()
+        secret = self.program.secret()
         key("ctrl+a", "ctrl+c")
         wait_for(lambda: clipboard() == secret, "the secret on the clipboard")
         self.assert_clipboard_holds_secret()
