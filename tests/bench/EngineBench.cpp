@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Compares the time to generate a secret with the time of the system calls that the secret needs. A
-// bare loop makes as many requests. The repetitions of both are interleaved at random, so that a
-// change of the processor's speed affects both, and the last lines show the ratios of the medians.
+// Compares the time to generate a secret with the time of a bare loop of the system calls that the
+// secret needs. The repetitions of both are interleaved at random, so that a change of the
+// processor's speed affects both. The last lines of the output show the ratios of the medians.
 
 #include "Services/SecureGenerator.h"
 
@@ -23,16 +23,18 @@
 
 namespace {
 
-struct Measured
+struct MeasuredSecret
 {
     std::string name;
     GeneratorSettings settings;
+    /// A password needs one call per character and one per step of the shuffle; a passphrase needs
+    /// one call per word and one for the number.
     std::int64_t calls;
 };
 
-std::vector<Measured> measuredSecrets()
+std::vector<MeasuredSecret> measuredSecrets()
 {
-    std::vector<Measured> result;
+    std::vector<MeasuredSecret> result;
     for (const std::int64_t length : {10, 20, 64}) {
         result.push_back({.name = "password " + std::to_string(length),
                           .settings = {.length = length},
@@ -46,7 +48,7 @@ std::vector<Measured> measuredSecrets()
     return result;
 }
 
-void secret(benchmark::State& state, const GeneratorSettings& settings)
+void generateSecret(benchmark::State& state, const GeneratorSettings& settings)
 {
     const SecureGenerator generator;
     for ([[maybe_unused]] auto _ : state)
@@ -83,8 +85,8 @@ public:
         ConsoleReporter::ReportRuns(runs);
     }
 
-    /// The median time of `name` divided by that of its bare system calls; 0 if the command line
-    /// excluded either.
+    /// The median time of the secret `name` divided by the median time of the secret's bare system
+    /// calls; 0 if the command line excludes one of these benchmarks.
     [[nodiscard]] double ratio(const std::string& name) const
     {
         const auto whole = m_medians.find(name);
@@ -102,7 +104,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    // The defaults come before the arguments of the command line, which override them.
+    // The arguments of the command line come after the defaults, and so override the defaults.
     std::array defaults{std::string("--benchmark_repetitions=15"),
                         std::string("--benchmark_min_time=0.05"),
                         std::string("--benchmark_enable_random_interleaving=true"),
@@ -119,8 +121,8 @@ int main(int argc, char** argv)
 
     const auto secrets = measuredSecrets();
     for (const auto& [name, settings, calls] : secrets) {
-        // NOLINTBEGIN(readability-redundant-string-cstr): the library in Debian 12 takes no string
-        benchmark::RegisterBenchmark(name.c_str(), secret, settings);
+        // NOLINTBEGIN(readability-redundant-string-cstr): required by the library in Debian 12
+        benchmark::RegisterBenchmark(name.c_str(), generateSecret, settings);
         benchmark::RegisterBenchmark(bareName(name).c_str(), bareSystemCalls, calls);
         // NOLINTEND(readability-redundant-string-cstr)
     }

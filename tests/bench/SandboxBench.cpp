@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Measures the time that a start of the program spends on the sandbox. A process cannot leave a
-// sandbox, so each round runs in a process of its own, whose start is not measured.
+// Measures the time that the sandbox adds to the start of the program. A process cannot leave a
+// sandbox, so each round runs in a new child process, whose start is not measured.
 
 #include "Platform/Sandbox.h"
 
@@ -30,7 +30,7 @@ void inFreshProcess(benchmark::State& state, void (*restriction)())
     for ([[maybe_unused]] const auto round : state) {
         std::array<int, 2> ends{};
         if (::pipe(ends.data()) != 0) {
-            state.SkipWithError("no pipe");
+            state.SkipWithError("a pipe cannot be created");
             return;
         }
         const pid_t child = ::fork();
@@ -45,7 +45,7 @@ void inFreshProcess(benchmark::State& state, void (*restriction)())
         ::close(ends[0]);
         ::waitpid(child, nullptr, 0);
         if (!isReceived) {
-            state.SkipWithError("no answer");
+            state.SkipWithError("the child process has sent no time");
             return;
         }
         state.SetIterationTime(seconds);

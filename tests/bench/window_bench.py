@@ -1,22 +1,24 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""Compares the program's window with a bare Qt Quick window, by the X server's reports.
+"""Compares the program's window with a bare Qt Quick window by means of the X server's events.
 
-Both programs run alternately in one session, on two identical displays without a window manager,
-first without and then with a session bus. The measurement needs no support by the programs:
+Both programs run alternately on two identical displays without a window manager, first without and
+then with a session bus. The programs contain no code for these measurements:
 
-first frame  The time from just before the start of the process until the first drawing, reported by
-             the X server's DAMAGE extension, after which a pixel in the middle of the window no
-             longer has the colour of the root window. Reports arrive within a few tenths of a
-             millisecond.
-last frame   The same time until the last drawing within one second.
-memory       The peak of resident memory, and after a second also the memory without mapped files.
-idle         The context switches of all threads while the window has the keyboard focus and nothing
-             happens.
-drag         The pointer first moves slowly over the slider, to record the image of each number and
-             the pointer position at which it appears; then it moves pixel by pixel at the speed of
-             a mouse. A number counts as drawn if its image was on the screen.
+first frame  The time from the start of the process until the first drawing after which a pixel in
+             the middle of the window no longer has the colour of the root window. The X server's
+             DAMAGE extension reports drawings within a few tenths of a millisecond.
+last frame   The time from the start of the process until the last drawing in the second that
+             follows the first frame.
+memory       The peak of resident memory at the first frame and one second later, and the anonymous
+             resident memory one second after the first frame.
+idle         The context switches of all threads while the window has the keyboard focus and no
+             input arrives.
+drag         The pointer first moves slowly over the slider, while the benchmark records the image
+             of each number above the slider and the pointer position at which the image appears.
+             The pointer then moves pixel by pixel at the speed of a mouse. A number counts as
+             drawn if the recorded image was on the screen.
 """
 
 import argparse
@@ -48,10 +50,11 @@ DEADLINE = 20.0
 WIDTH, HEIGHT = 1280, 1024
 ROOT_COLOUR = 0xFF00FF
 INSIDE = (430, 305)
-"""A point inside both windows: they are at least 860 x 610 and lie in the top left corner."""
+"""A point inside both windows, which are at least 860 x 610 and in the screen's top left corner."""
 
 STARTUP_GOAL = 1.25
 MEMORY_GOAL = 1.2
+"""The highest acceptable ratios of the program's results to the results of the bare window."""
 
 SETTLING_TIME = 3.0
 """Seconds between the first frame and the measurement of the idle program."""
@@ -60,7 +63,9 @@ ACCENT = bytes((0xFF, 0x7A, 0x00))
 """The colour of the slider's filled part, in the byte order of the screen."""
 PANEL_WIDTH = 280
 STEPS = 64 - 8
+"""The steps of the slider from the shortest to the longest password."""
 MOUSE_INTERVAL = 1 / 125
+"""Seconds between two movements of a mouse."""
 
 
 class MeasurementError(Exception):
@@ -68,7 +73,7 @@ class MeasurementError(Exception):
 
 
 class Desktop:
-    """An X server, an empty home folder and optionally a session bus. Use it in a `with` block."""
+    """An X server, a home folder and optionally a session bus, which exist in a `with` block."""
 
     def __init__(self, with_bus):
         self._with_bus = with_bus
@@ -142,7 +147,7 @@ class Desktop:
         return event.type == self.display.extension_event.DamageNotify
 
     def image(self, x, y, width, height):
-        """The pixels of a rectangle, each of four bytes: blue, green, red and an unused one."""
+        """The pixels of a rectangle, each of four bytes: blue, green, red and an unused byte."""
         return bytes(self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data)
 
     def shows_window(self):
@@ -162,7 +167,7 @@ class Desktop:
 
 
 class Run:
-    """One run of a program. Use it in a `with` block, which ends it."""
+    """One run of a program; the end of a `with` block ends the program."""
 
     def __init__(self, desktop, program):
         self._desktop = desktop
@@ -194,7 +199,7 @@ class Run:
             pass
 
     def first_frame(self):
-        """Waits for the first frame; returns the seconds since the start."""
+        """Waits for the first frame; returns the seconds since the start of the process."""
         for now, event in self._desktop.events(self._started + DEADLINE):
             if event.type == X.MapNotify:
                 self._window = event.window
@@ -203,9 +208,10 @@ class Run:
         raise MeasurementError(f"{self.program} has shown no window within {DEADLINE:.0f} s")
 
     def last_drawing(self, seconds):
-        """Waits for some seconds.
+        """Waits for this number of seconds.
 
-        Returns the time of the last drawing within them, in seconds since the start, or None.
+        Returns the time of the last drawing during the wait, in seconds since the start of the
+        process, or None without a drawing.
         """
         last = None
         for now in self._desktop.drawings(time.monotonic() + seconds):
@@ -268,7 +274,7 @@ FIELDS = (
 
 
 def measure_round(desktop, program):
-    """Runs the program once; returns one number for each of the fields."""
+    """Runs the program once; returns one number for each of FIELDS."""
     with Run(desktop, program) as run:
         first = run.first_frame()
         peak = run.peak_memory()
@@ -283,7 +289,7 @@ def measure_round(desktop, program):
 
 
 def measure_rounds(programs, desktops, rounds):
-    """The numbers of every round, one list per program. The order alternates between rounds."""
+    """The numbers of every round, one list per program. Each round reverses the order."""
     results = [[] for _ in programs]
     order = list(zip(programs, desktops, results))
     for number in range(rounds + 1):
@@ -350,7 +356,7 @@ class Slider:
         self.wait_until_drawn()
 
     def wait_until_drawn(self, quiet=0.3):
-        """Waits for a time without drawings; returns the time of the last drawing or None."""
+        """Waits for `quiet` seconds without drawings; returns the last drawing's time or None."""
         last = None
         end = time.monotonic() + DEADLINE
         while time.monotonic() < end:
@@ -361,7 +367,10 @@ class Slider:
         raise MeasurementError("the window does not stop drawing")
 
     def record_numbers(self):
-        """Moves slowly over the slider; returns the first pointer position for each number."""
+        """Moves the pointer slowly over the slider.
+
+        Returns the pointer position at which each number first appears, by the number's image.
+        """
         positions = {self.number_image(): 0}
         for x in range(PANEL_WIDTH):
             self._desktop.move_pointer(x, self.y)
@@ -374,7 +383,7 @@ class Slider:
         return positions
 
     def drag(self, positions):
-        """Drags from one end to the other at the speed of a mouse.
+        """Drags the handle from the left end to the right end at the speed of a mouse.
 
         Returns the time from each move to the first drawing of its number, and the time from the
         last move to the last drawing.
@@ -428,7 +437,7 @@ def print_rounds(program, bare):
 
 
 def main():
-    parser = argparse.ArgumentParser(description="compares the program's window with a bare one")
+    parser = argparse.ArgumentParser(description="compares the program's window with a bare window")
     parser.add_argument("program")
     parser.add_argument("bare")
     parser.add_argument("--rounds", type=int, default=15)

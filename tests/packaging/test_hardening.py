@@ -18,7 +18,7 @@ def inspect(*command):
 
 
 def first_instructions():
-    """The first instruction of each function of the program, by the function's name."""
+    """The first instructions of main and of the functions of SecureGenerator, by function name."""
     code = inspect("objdump", "--disassemble", "--no-show-raw-insn", "--section=.text")
     found = re.findall(r"^[0-9a-f]+ <(\w+)>:\n\s*[0-9a-f]+:\s+(\S+)", code, re.M)
     return {name: first for name, first in found if "SecureGenerator" in name or name == "main"}

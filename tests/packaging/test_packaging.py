@@ -113,7 +113,7 @@ class Metadata(unittest.TestCase):
         self.assertEqual(self.entry["Icon"], ID)
         self.assertEqual(self.entry["Exec"], self.metainfo.findtext("provides/binary"))
 
-    def test_both_have_the_same_summaries(self):
+    def test_the_desktop_entry_and_the_metainfo_have_the_same_summaries(self):
         language = "{http://www.w3.org/XML/1998/namespace}lang"
         summaries = {s.get(language): s.text for s in self.metainfo.findall("summary")}
         self.assertEqual(
@@ -138,9 +138,9 @@ class Metadata(unittest.TestCase):
 
 
 class Debian(unittest.TestCase):
-    def test_the_modules_listed_for_debian_12_are_the_build_dependencies(self):
+    def test_the_qml_modules_listed_for_debian_12_are_the_build_dependencies(self):
         control = (SOURCES / "debian/control").read_text(encoding="utf-8")
-        # Lines with a build profile are build dependencies of the tests.
+        # The pattern excludes lines with a build profile, which are dependencies of the tests.
         expected = re.findall(r"^ +(qml6-module-[\w-]+),$", control, re.MULTILINE)
         rules = (SOURCES / "debian/rules").read_text(encoding="utf-8")
         listed = re.findall(r"qml6-module-[\w-]+", rules)
@@ -162,7 +162,7 @@ class Flatpak(unittest.TestCase):
     def test_permits_the_display_only(self):
         self.assertEqual(
             set(self.manifest["finish-args"]),
-            # X11 clients share memory with the X server.
+            # X11 clients need --share=ipc to share memory with the X server.
             {"--socket=wayland", "--socket=fallback-x11", "--share=ipc"},
         )
 
@@ -180,7 +180,7 @@ class MacBundle(unittest.TestCase):
         entitlements = plistlib.loads((PACKAGING / "macos/Morvane.entitlements").read_bytes())
         self.assertEqual(entitlements, {"com.apple.security.app-sandbox": True})
 
-    def test_the_bundle_has_this_identity(self):
+    def test_the_bundle_names_this_program_and_version(self):
         text = (PACKAGING / "macos/Info.plist.in").read_text(encoding="utf-8")
         values = {
             "MACOSX_BUNDLE_EXECUTABLE_NAME": "Morvane",

@@ -3,8 +3,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// The bare window plus the minimum for the program's design: a button without a drawing, which loads
-// the control templates, and a text in each font of the first frame.
+// The minimum that the program's design needs: an invisible button, which loads the control
+// templates, and a text in each font of the program's first frame.
 Window {
     height: 610
     visible: true

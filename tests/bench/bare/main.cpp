@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Opens a minimal Qt Quick window on the program's renderer, with which the benchmarks compare the
-// program's window. The window is BareWindow.qml or TemplatesWindow.qml.
+// Opens a minimal Qt Quick window, BareWindow.qml or TemplatesWindow.qml, with the renderer of the
+// program. The benchmarks compare the program's window with this window.
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
