@@ -36,18 +36,30 @@ public:
     explicit PendingTasks(QObject* parent)
         : QObject(parent)
     {
-        m_substitute.setSingleShot(true);
-        m_substitute.setTimerType(Qt::PreciseTimer);
-        connect(&m_substitute, &QTimer::timeout, this, &PendingTasks::runDueTasks);
         connect(&m_notifier, &QSocketNotifier::activated, this, &PendingTasks::runDueTasks);
+        if (m_timer >= 0) {
+            m_notifier.setSocket(m_timer);
+            m_notifier.setEnabled(true);
+        }
     }
 
-    ~PendingTasks() override { closeTimer(); }
+    ~PendingTasks() override
+    {
+        m_notifier.setEnabled(false);
+        if (m_timer >= 0)
+            ::close(m_timer);
+    }
 
     void add(milliseconds wait, std::function<void()> task)
     {
+        if (m_timer < 0) {
+            // The process had no descriptor left. A timer that stops while the machine is suspended
+            // is better than none.
+            QTimer::singleShot(wait, Qt::PreciseTimer, this, std::move(task));
+            return;
+        }
         m_tasks.emplace(timeSinceBoot() + wait, std::move(task));
-        startTimer();
+        setTimer();
     }
 
 private:
@@ -58,23 +70,13 @@ private:
             const auto due = m_tasks.extract(m_tasks.begin());
             due.mapped()();
         }
-        if (m_tasks.empty())
-            closeTimer();
-        else
-            startTimer();
+        setTimer();
     }
 
-    void startTimer()
+    /// Sets the timer to the earliest deadline. Without tasks, the deadline 0 stops the timer.
+    void setTimer()
     {
-        if (m_timer < 0)
-            openTimer();
-        const nanoseconds deadline = m_tasks.begin()->first;
-        if (m_timer < 0) {
-            // The process has no descriptor left. A timer that stops while the machine is suspended
-            // is better than none.
-            m_substitute.start(std::chrono::ceil<milliseconds>(deadline - timeSinceBoot()));
-            return;
-        }
+        const nanoseconds deadline = m_tasks.empty() ? nanoseconds(0) : m_tasks.begin()->first;
         const auto wholeSeconds = std::chrono::floor<seconds>(deadline);
         itimerspec time{};
         time.it_value.tv_sec = wholeSeconds.count();
@@ -82,27 +84,10 @@ private:
         ::timerfd_settime(m_timer, TFD_TIMER_ABSTIME, &time, nullptr);
     }
 
-    void openTimer()
-    {
-        m_timer = ::timerfd_create(CLOCK_BOOTTIME, TFD_NONBLOCK | TFD_CLOEXEC);
-        if (m_timer < 0)
-            return;
-        m_notifier.setSocket(m_timer);
-        m_notifier.setEnabled(true);
-    }
-
-    void closeTimer()
-    {
-        m_notifier.setEnabled(false);
-        if (m_timer >= 0)
-            ::close(std::exchange(m_timer, -1));
-    }
-
     std::multimap<nanoseconds, std::function<void()>> m_tasks;
-    /// A file descriptor that is readable from the earliest deadline on; negative without tasks.
-    int m_timer = -1;
+    /// A file descriptor that is readable from the earliest deadline on.
+    const int m_timer = ::timerfd_create(CLOCK_BOOTTIME, TFD_NONBLOCK | TFD_CLOEXEC);
     QSocketNotifier m_notifier{QSocketNotifier::Read};
-    QTimer m_substitute;
     Q_DISABLE_COPY_MOVE(PendingTasks)
 };
 
