@@ -3,26 +3,24 @@
 
 #include "Model/GeneratorMode.h"
 
-#include <QtGlobal>
+#include <cstddef>
 
-#include <algorithm>
+namespace {
+
+constexpr std::array<QStringView, allGeneratorModes.size()> labels{u"Passwort", u"Passphrase"};
+
+} // namespace
 
 QString rawValue(GeneratorMode mode)
 {
-    switch (mode) {
-    case GeneratorMode::password:
-        return QStringLiteral("Passwort");
-    case GeneratorMode::passphrase:
-        return QStringLiteral("Passphrase");
-    }
-    Q_UNREACHABLE();
+    return labels.at(static_cast<std::size_t>(mode)).toString();
 }
 
 std::optional<GeneratorMode> generatorMode(QStringView text)
 {
-    const auto* const found = std::ranges::find_if(
-        allGeneratorModes, [text](GeneratorMode mode) { return rawValue(mode) == text; });
-    if (found == allGeneratorModes.end())
-        return std::nullopt;
-    return *found;
+    for (const GeneratorMode mode : allGeneratorModes) {
+        if (rawValue(mode) == text)
+            return mode;
+    }
+    return std::nullopt;
 }

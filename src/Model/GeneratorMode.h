@@ -13,7 +13,7 @@
 /// The kind of secret that is generated.
 enum class GeneratorMode : std::uint8_t { password, passphrase };
 
-/// All modes, in the order in which the user interface lists them.
+/// All modes, in the order of their values, in which the user interface lists them.
 inline constexpr std::array allGeneratorModes{GeneratorMode::password, GeneratorMode::passphrase};
 
 /// The mode's German label, which also identifies the mode as text.

@@ -3,34 +3,30 @@
 
 #include "Model/PasswordStrength.h"
 
-#include <QtGlobal>
+#include <QStringView>
+
+#include <array>
+#include <cstddef>
+
+namespace {
+
+// In the order of the levels.
+constexpr std::array<QStringView, 4> titles{u"Schwach", u"Mittel", u"Gut", u"Stark"};
+constexpr std::array<QStringView, 4> systemImages{
+    u"shield.slash",
+    u"shield.lefthalf.filled",
+    u"shield",
+    u"checkmark.shield.fill",
+};
+
+} // namespace
 
 QString title(PasswordStrength strength)
 {
-    switch (strength) {
-    case PasswordStrength::weak:
-        return QStringLiteral("Schwach");
-    case PasswordStrength::fair:
-        return QStringLiteral("Mittel");
-    case PasswordStrength::good:
-        return QStringLiteral("Gut");
-    case PasswordStrength::strong:
-        return QStringLiteral("Stark");
-    }
-    Q_UNREACHABLE();
+    return titles.at(static_cast<std::size_t>(strength)).toString();
 }
 
 QString systemImage(PasswordStrength strength)
 {
-    switch (strength) {
-    case PasswordStrength::weak:
-        return QStringLiteral("shield.slash");
-    case PasswordStrength::fair:
-        return QStringLiteral("shield.lefthalf.filled");
-    case PasswordStrength::good:
-        return QStringLiteral("shield");
-    case PasswordStrength::strong:
-        return QStringLiteral("checkmark.shield.fill");
-    }
-    Q_UNREACHABLE();
+    return systemImages.at(static_cast<std::size_t>(strength)).toString();
 }

@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 
 static_assert(std::is_enum_v<GeneratorMode>);
 static_assert(GeneratorMode() == GeneratorMode::password);
+static_assert(static_cast<int>(GeneratorMode::password) == 0);
+static_assert(static_cast<int>(GeneratorMode::passphrase) == 1);
 static_assert(allGeneratorModes == std::array{GeneratorMode::password, GeneratorMode::passphrase});
 
 namespace {
