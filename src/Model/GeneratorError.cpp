@@ -3,6 +3,9 @@
 
 #include "Model/GeneratorError.h"
 
+#include <array>
+#include <cstddef>
+
 GeneratorError GeneratorError::lengthTooShort(std::int64_t minimumLength)
 {
     return GeneratorError(Kind::lengthTooShort, minimumLength);
@@ -22,8 +25,9 @@ QString GeneratorError::errorDescription() const
 {
     switch (m_kind) {
     case Kind::lengthTooShort:
-        return QStringLiteral("Die Länge muss mindestens ") + QString::number(m_number)
-               + QStringLiteral(" betragen, damit jede Gruppe vorkommen kann.");
+        return QStringLiteral(
+                   "Die Länge muss mindestens %1 betragen, damit jede Gruppe vorkommen kann.")
+            .arg(m_number);
     case Kind::randomFailure:
         return QStringLiteral(
             "Der sichere Zufallsgenerator von macOS konnte nicht verwendet werden.");
@@ -35,9 +39,7 @@ QString GeneratorError::errorDescription() const
 
 std::optional<std::int64_t> GeneratorError::minimumLength() const
 {
-    if (m_kind == Kind::lengthTooShort)
-        return m_number;
-    return std::nullopt;
+    return m_kind == Kind::lengthTooShort ? std::optional(m_number) : std::nullopt;
 }
 
 std::optional<std::int32_t> GeneratorError::randomStatus() const
@@ -49,13 +51,6 @@ std::optional<std::int32_t> GeneratorError::randomStatus() const
 
 const char* GeneratorError::what() const noexcept
 {
-    switch (m_kind) {
-    case Kind::lengthTooShort:
-        return "lengthTooShort";
-    case Kind::randomFailure:
-        return "randomFailure";
-    case Kind::noCharacterSet:
-        return "noCharacterSet";
-    }
-    Q_UNREACHABLE();
+    static constexpr std::array names{"lengthTooShort", "randomFailure", "noCharacterSet"};
+    return names.at(static_cast<std::size_t>(m_kind));
 }
