@@ -3,8 +3,8 @@
 
 #include "Platform/Sandbox.h"
 
+#include <algorithm>
 #include <array>
-#include <bit>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
@@ -21,18 +21,6 @@
 namespace Platform::Sandbox {
 
 namespace {
-
-// Reading is not refused: libraries read fonts, icons, translations and plugins from many folders
-// and at any time.
-constexpr std::uint64_t changesOfFiles
-    = LANDLOCK_ACCESS_FS_EXECUTE | LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR
-      | LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_MAKE_CHAR | LANDLOCK_ACCESS_FS_MAKE_DIR
-      | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO
-      | LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
-
-// Landlock 2 and 3 added these kinds of access, which older headers do not name.
-constexpr std::uint64_t movingToAnotherFolder = 1U << 13U;
-constexpr std::uint64_t truncating = 1U << 14U;
 
 constexpr std::array writableDevices{
     // On Wayland, Qt 6.4 loads a graphics driver even for the software renderer. Mesa's drivers
@@ -70,14 +58,18 @@ void restrictSelf(int ruleset)
 
 // NOLINTEND(cppcoreguidelines-pro-type-vararg)
 
-/// The changes that this kernel can refuse; none without Landlock.
-std::uint64_t refusableChanges()
+/// The kinds of access to files that this kernel can refuse; none without Landlock.
+std::uint64_t refusableAccess()
 {
     const int version = createRuleset(nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
         return 0;
-    return changesOfFiles | (version >= 2 ? movingToAnotherFolder : 0)
-           | (version >= 3 ? truncating : 0);
+    // The first version has 13 kinds of access, one bit each. Version 2 adds moving a file to
+    // another folder, and version 3 truncating a file.
+    const std::uint64_t kinds = (std::uint64_t{1} << (12 + std::min(version, 3))) - 1;
+    // Reading is not refused: libraries read fonts, icons, translations and plugins from many
+    // folders and at any time.
+    return kinds & ~std::uint64_t{LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR};
 }
 
 struct FilterReleaser
@@ -101,24 +93,19 @@ constexpr std::array<int, 9> refusedCalls{
     SCMP_SYS(lsetxattr),
 };
 
-// The display, D-Bus and the accessibility bus use UNIX sockets, and libraries list devices through
-// netlink sockets.
-constexpr std::uint32_t allowedFamilies = AF_UNIX | AF_NETLINK;
-static_assert(std::popcount(allowedFamilies) == 2, "each allowed family is a single bit");
-
-/// Refuses sockets of all other families. A rule compares an argument only once, so no rule can
-/// exclude both allowed families. Each other family has either both of their bits or a third one.
+/// Refuses sockets of all families but two: the display, D-Bus and the accessibility bus use UNIX
+/// sockets, and libraries list devices through netlink sockets. A rule compares an argument only
+/// once, so no rule can exclude both families.
 void refuseOtherSockets(scmp_filter_ctx filter)
 {
-    const auto refuse = [filter](std::uint32_t bits) {
-        const scmp_arg_cmp family{0, SCMP_CMP_MASKED_EQ, bits, bits};
+    const auto refuse = [filter](scmp_compare comparison, scmp_datum_t value) {
+        const scmp_arg_cmp family{0, comparison, value, 0};
         seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(EAFNOSUPPORT), SCMP_SYS(socket), 1, &family);
     };
-    refuse(allowedFamilies);
-    for (std::uint32_t bit = 1; bit != 0; bit <<= 1U) {
-        if ((bit & allowedFamilies) == 0)
-            refuse(bit);
-    }
+    refuse(SCMP_CMP_LT, AF_UNIX);
+    for (scmp_datum_t family = AF_UNIX + 1; family < AF_NETLINK; ++family)
+        refuse(SCMP_CMP_EQ, family);
+    refuse(SCMP_CMP_GT, AF_NETLINK);
 }
 
 } // namespace
@@ -127,7 +114,7 @@ void restrictFilesystem() noexcept
 {
     // Kernel headers from 6.7 on declare more members, which stay zero.
     landlock_ruleset_attr attributes{};
-    attributes.handled_access_fs = refusableChanges();
+    attributes.handled_access_fs = refusableAccess();
     if (attributes.handled_access_fs == 0)
         return;
     const int ruleset = createRuleset(&attributes, sizeof(attributes), 0);
