@@ -7,7 +7,6 @@
 #include "Platform/ProcessMemory.h"
 #include "Platform/Sandbox.h"
 #include "Platform/SystemAppearance.h"
-#include "Platform/SystemMenu.h"
 #include "Platform/WindowChrome.h"
 #include "Views/Controls/Appearance.h"
 
@@ -196,9 +195,10 @@ int MorvaneApp::run(int argc, char** argv) const
     if (!window)
         return EXIT_FAILURE;
     Platform::WindowChrome::hideTitleBar(*window);
-    Platform::SystemMenu::setAboutCommand(QStringLiteral("Über Morvane"), [window = window.get()] {
+    const auto openAbout = [window = window.get()] {
         QMetaObject::invokeMethod(window, "openWindow", Q_ARG(QString, QStringLiteral("about")));
-    });
+    };
+    Platform::WindowChrome::setAboutCommand(QStringLiteral("Über Morvane"), openAbout);
     window->show();
     const int status = QGuiApplication::exec();
     limitShutdown(status);

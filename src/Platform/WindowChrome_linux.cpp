@@ -17,4 +17,8 @@ bool usesClientSideDecorations()
     return true;
 }
 
+void setAboutCommand(const QString& /*title*/, const std::function<void()>& /*chosen*/)
+{
+}
+
 } // namespace Platform::WindowChrome
