@@ -6,8 +6,8 @@
 #include <QString>
 #include <QStringView>
 
-/// Grapheme clusters (Unicode Standard Annex 29) and canonical equivalence, from ICU, because
-/// QTextBoundaryFinder of Qt 6.4 fails 39 of the 602 cases of GraphemeBreakTest.txt.
+/// Grapheme clusters (Unicode Standard Annex 29) and canonical equivalence. The clusters are from
+/// ICU, because QTextBoundaryFinder of Qt 6.4 fails 39 of the 602 cases of GraphemeBreakTest.txt.
 namespace UnicodeText {
 
 /// The number of extended grapheme clusters, which users perceive as characters.
@@ -18,6 +18,6 @@ namespace UnicodeText {
 
 /// Whether the texts are canonically equivalent, for example the composed and the decomposed
 /// spelling of a letter with a diacritic.
-[[nodiscard]] bool canonicallyEquivalent(QStringView left, QStringView right);
+[[nodiscard]] bool canonicallyEquivalent(const QString& left, const QString& right);
 
 } // namespace UnicodeText
