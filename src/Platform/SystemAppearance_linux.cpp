@@ -28,14 +28,8 @@ constexpr QLatin1String plasma("org.kde.kdeglobals.KDE");
 
 std::optional<bool> darkPreference(const Settings& settings)
 {
-    switch (settings[appearance][QLatin1String("color-scheme")].toUInt()) {
-    case 1:
-        return true;
-    case 2:
-        return false;
-    default:
-        return std::nullopt;
-    }
+    const uint scheme = settings[appearance][QLatin1String("color-scheme")].toUInt();
+    return scheme == 1 || scheme == 2 ? std::optional(scheme == 1) : std::nullopt;
 }
 
 bool prefersReducedMotion(const Settings& settings)

@@ -61,22 +61,11 @@ QStringList GeneratorViewModel::modeTitles()
     return titles;
 }
 
-int GeneratorViewModel::modeIndex() const
-{
-    const auto* const mode = std::ranges::find(allGeneratorModes, m_settings.mode);
-    return static_cast<int>(mode - allGeneratorModes.begin());
-}
-
 void GeneratorViewModel::setModeIndex(int index)
 {
     GeneratorSettings settings = m_settings;
     settings.mode = allGeneratorModes.at(static_cast<std::size_t>(index));
     setSettings(settings);
-}
-
-bool GeneratorViewModel::isPassphrase() const
-{
-    return m_settings.mode == GeneratorMode::passphrase;
 }
 
 void GeneratorViewModel::limitSeparator()
@@ -90,11 +79,6 @@ void GeneratorViewModel::limitSeparator()
 bool GeneratorViewModel::isLong() const
 {
     return UnicodeText::graphemeCount(m_generated) > longestShortValue;
-}
-
-PasswordStrength GeneratorViewModel::strength() const
-{
-    return m_generator.strength(m_entropy);
 }
 
 void GeneratorViewModel::setErrorPresented(bool presented)

@@ -55,11 +55,11 @@ public:
     /// The labels of all modes, in the order of `allGeneratorModes`.
     [[nodiscard]] static QStringList modeTitles();
     /// The index of the settings' mode in `modeTitles`.
-    [[nodiscard]] int modeIndex() const;
+    [[nodiscard]] int modeIndex() const { return static_cast<int>(m_settings.mode); }
     /// Changes the settings' mode to the one at `index` of `modeTitles`, which is in its range.
     void setModeIndex(int index);
     /// Whether the settings' mode is `passphrase`.
-    [[nodiscard]] bool isPassphrase() const;
+    [[nodiscard]] bool isPassphrase() const { return m_settings.mode == GeneratorMode::passphrase; }
     /// Shortens a separator of more than 3 grapheme clusters to the first 3. The shortening is a
     /// second change of the settings, so an observer sees the long text and the shortened one.
     Q_INVOKABLE void limitSeparator();
@@ -71,7 +71,7 @@ public:
     /// The estimated entropy of `generated`, in bits.
     [[nodiscard]] double entropy() const { return m_entropy; }
     /// The rating of `entropy`.
-    [[nodiscard]] PasswordStrength strength() const;
+    [[nodiscard]] PasswordStrength strength() const { return m_generator.strength(m_entropy); }
     /// `strength` as a number from 0, the weakest, to 3.
     [[nodiscard]] int strengthLevel() const { return static_cast<int>(strength()); }
     /// The German word for `strength`.
