@@ -72,12 +72,6 @@ std::uint64_t refusableAccess()
     return kinds & ~std::uint64_t{LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR};
 }
 
-struct FilterReleaser
-{
-    void operator()(void* filter) const { seccomp_release(filter); }
-};
-using Filter = std::unique_ptr<void, FilterReleaser>;
-
 // The program has no use for these system calls.
 constexpr std::array<int, 9> refusedCalls{
     SCMP_SYS(execve),
@@ -128,7 +122,8 @@ void restrictFilesystem() noexcept
 
 void installSyscallFilter() noexcept
 {
-    const Filter filter(seccomp_init(SCMP_ACT_ALLOW));
+    const std::unique_ptr<void, decltype(&seccomp_release)> filter(seccomp_init(SCMP_ACT_ALLOW),
+                                                                   seccomp_release);
     if (!filter)
         return;
     // The rules do not match the calls of another architecture (32-bit on x86-64), and the default

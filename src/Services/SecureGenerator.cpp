@@ -90,22 +90,11 @@ qsizetype longestPassphrase(const GeneratorSettings& settings)
     return length;
 }
 
-QLatin1Char digit(std::int64_t value)
-{
-    return QLatin1Char(static_cast<char>('0' + value));
-}
-
 } // namespace
 
 QString SecureGenerator::generate(const GeneratorSettings& settings) const
 try {
-    switch (settings.mode) {
-    case GeneratorMode::password:
-        return password(settings);
-    case GeneratorMode::passphrase:
-        return passphrase(settings);
-    }
-    stop();
+    return settings.mode == GeneratorMode::password ? password(settings) : passphrase(settings);
 } catch (const std::bad_alloc&) {
     // The callers catch GeneratorError only, and could not continue without memory.
     stop();
@@ -156,11 +145,11 @@ QString SecureGenerator::passphrase(const GeneratorSettings& settings) const
             result[start] = result[start].toUpper();
     }
     if (settings.appendNumber) {
-        const std::int64_t number = secureIndex(100);
+        const auto number = static_cast<std::size_t>(secureIndex(100));
         result += settings.separator;
         if (number >= 10)
-            result += digit(number / 10);
-        result += digit(number % 10);
+            result += QLatin1Char(numbers[number / 10]);
+        result += QLatin1Char(numbers[number % 10]);
     }
     wiping.dismiss();
     return result;

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <utility>
 
 namespace {
@@ -111,11 +112,11 @@ void GeneratorViewModel::copyToClipboard()
     if (m_generated.isEmpty())
         return;
     Clipboard::setSecret(m_generated);
-    m_clipboardRevision = Clipboard::changeCount();
+    const std::int64_t revision = Clipboard::changeCount();
     setCopied(true);
     // The task does not use this object, because the clipboard keeps the secret after the window is
     // closed.
-    ContinuousClock::after(clearClipboardAfter, [revision = m_clipboardRevision] {
+    ContinuousClock::after(clearClipboardAfter, [revision] {
         if (Clipboard::changeCount() == revision)
             Clipboard::clear();
     });

@@ -12,7 +12,6 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-#include <cstdint>
 #include <optional>
 
 /// The state of the main window: the settings, the secret generated from them and the earlier
@@ -132,8 +131,6 @@ private:
     QStringList m_released;
     std::optional<QString> m_errorMessage;
     bool m_copied = false;
-    /// The clipboard's change counter after the last write of this object.
-    std::int64_t m_clipboardRevision = 0;
     SecureGenerator m_generator;
     Q_DISABLE_COPY_MOVE(GeneratorViewModel)
 };
