@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -67,6 +68,16 @@ int errorOfSocket(long family)
 {
     return errorOfOpen(static_cast<int>(::syscall(SYS_socket, family, SOCK_DGRAM, 0)));
 }
+
+/// The number and the last argument of the system call setxattrat, which the headers of Linux 6.12
+/// and older do not declare.
+constexpr long setxattrat = 463;
+struct SetXattrArguments
+{
+    const char* value;
+    std::uint32_t size;
+    std::uint32_t flags;
+};
 
 /// Runs a function in a child process; returns the function's result.
 template<typename Function>
@@ -124,6 +135,19 @@ constexpr std::array attempts{
             [] { return errorOfOpen(::open(paths().file.c_str(), O_WRONLY | O_APPEND)); }},
     Attempt{"set-xattr",
             [] { return errorOf(::setxattr(paths().file.c_str(), "user.probe", "1", 1, 0)); }},
+    Attempt{"set-xattr-descriptor",
+            [] {
+                const int file = ::open(paths().file.c_str(), O_RDONLY);
+                const int error = errorOf(::fsetxattr(file, "user.probe", "1", 1, 0));
+                ::close(file);
+                return error;
+            }},
+    Attempt{"set-xattr-at",
+            [] {
+                const SetXattrArguments arguments{"1", 1, 0};
+                return errorOf(::syscall(setxattrat, AT_FDCWD, paths().file.c_str(), 0,
+                                         "user.probe", &arguments, sizeof(arguments)));
+            }},
     Attempt{"rename",
             [] {
                 const int error = errorOf(::rename(paths().file.c_str(), paths().fresh.c_str()));

@@ -24,7 +24,8 @@ ALWAYS_ALLOWED = {"exec", "ptrace", "internet"}
 FILE_CHANGES = {
     *("create", "write", "append", "rename", "link", "symlink", "mkdir", "rmdir", "mkfifo"),
 }
-SYSTEM_CALLS = {"exec", "ptrace", "read-memory", "io-uring", "set-xattr"}
+SET_XATTR = {"set-xattr", "set-xattr-descriptor", "set-xattr-at"}
+SYSTEM_CALLS = {"exec", "ptrace", "read-memory", "io-uring", *SET_XATTR}
 SOCKETS = {"internet", "internet-6", "internet-64-bit"}
 PERMITTED = {"unix", "netlink", "read", "null", "memory-file"}
 
