@@ -91,7 +91,6 @@ void loadFontsOfFirstFrame()
              Style{11, QFont::Normal, font.family()},
              Style{17, QFont::Bold, font.family()},
              Style{28, QFont::DemiBold, secretFamily},
-             Style{22, QFont::DemiBold, secretFamily},
              Style{12, QFont::Normal, secretFamily},
          }) {
         font.setFamily(style.family);

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
-import QtQml.Models
 import Morvane.ViewModel
 import Morvane.Views.Controls
 
@@ -75,16 +73,11 @@ FocusScope {
         onValueFocused: root.field = null
     }
 
-    Instantiator {
-        active: root.model.errorPresented
+    ErrorAlert {
+        message: root.model.errorMessage
+        objectName: "errorAlert"
+        visible: root.model.errorPresented
 
-        ErrorAlert {
-            message: root.model.errorMessage
-            objectName: "errorAlert"
-            parent: root
-            visible: true
-
-            onDismissed: root.model.errorPresented = false
-        }
+        onDismissed: root.model.errorPresented = false
     }
 }

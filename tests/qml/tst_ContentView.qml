@@ -13,9 +13,8 @@ TestCase {
 
     property ContentView content: null
 
-    // The alert exists only while there is an error.
     function alertIsShown(): bool {
-        return findChild(content, "errorAlert")?.opened ?? false;
+        return findChild(content, "errorAlert").opened;
     }
 
     function init() {

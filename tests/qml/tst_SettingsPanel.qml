@@ -312,7 +312,7 @@ TestCase {
             mouseClick(control(name));
         tryVerify(() => findChild(content, "errorAlert").opened);
         keyClick(Qt.Key_Return);
-        tryVerify(() => !findChild(content, "errorAlert"));
+        tryVerify(() => !findChild(content, "errorAlert").visible);
         mouseClick(control("numbers"));
         verify(!content.model.errorPresented);
         verify(/^[2-9]{10}$/.test(content.model.generated), content.model.generated);
