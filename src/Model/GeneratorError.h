@@ -13,7 +13,7 @@
 class GeneratorError final : public std::exception
 {
 public:
-    /// The length is below the number of groups that must occur, which is `minimumLength`.
+    /// The length is below `minimumLength`, the number of character groups that must occur.
     [[nodiscard]] static GeneratorError lengthTooShort(std::int64_t minimumLength);
 
     /// The system's random source failed with `status`, which is not 0.
@@ -25,10 +25,10 @@ public:
     /// The German message for the user, never empty.
     [[nodiscard]] QString errorDescription() const;
 
-    /// The smallest accepted length, if this is `lengthTooShort`.
+    /// The smallest accepted length of a `lengthTooShort`; absent for the other kinds of error.
     [[nodiscard]] std::optional<std::int64_t> minimumLength() const;
 
-    /// The status that the system returned, if this is `randomFailure`.
+    /// The status that the system returned for a `randomFailure`; absent for the other kinds.
     [[nodiscard]] std::optional<std::int32_t> randomStatus() const;
 
     /// The name of the kind of error, for debugging; users see `errorDescription`.
@@ -49,6 +49,6 @@ private:
     }
 
     Kind m_kind;
-    /// The minimum length or the status, as `m_kind` has one; else 0.
+    /// The minimum length or the status, depending on `m_kind`; 0 for `noCharacterSet`.
     std::int64_t m_number;
 };

@@ -8,7 +8,7 @@
 #include <QMetaType>
 #include <QString>
 
-/// The user's choices for both modes, so that a switch of the mode keeps those of the other.
+/// The user's choices for both modes, so that changing the mode loses none of them.
 ///
 ///     const GeneratorSettings settings{.length = 12, .symbols = false};
 ///

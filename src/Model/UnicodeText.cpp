@@ -10,7 +10,7 @@
 namespace UnicodeText {
 namespace {
 
-/// An iterator over the grapheme clusters of `text`, which it does not copy.
+/// An iterator over the grapheme clusters of `text`, whose characters must outlive the iterator.
 icu::LocalUBreakIteratorPointer graphemeClusters(QStringView text)
 {
     UErrorCode status = U_ZERO_ERROR;

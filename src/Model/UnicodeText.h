@@ -6,14 +6,14 @@
 #include <QString>
 #include <QStringView>
 
-/// Grapheme clusters (Unicode Standard Annex 29) and canonical equivalence. The clusters are from
-/// ICU, because QTextBoundaryFinder of Qt 6.4 fails 39 of the 602 cases of GraphemeBreakTest.txt.
+/// Grapheme clusters (Unicode Standard Annex 29), found with ICU, and canonical equivalence.
+/// QTextBoundaryFinder of Qt 6.4 fails 39 of the 602 cases of GraphemeBreakTest.txt.
 namespace UnicodeText {
 
 /// The number of extended grapheme clusters, which users perceive as characters.
 [[nodiscard]] qsizetype graphemeCount(QStringView text);
 
-/// The first `count` (0 or more) grapheme clusters; all of `text` if it has no more.
+/// The first `count` (0 or more) grapheme clusters; `text` itself if `text` has fewer.
 [[nodiscard]] QString firstGraphemes(const QString& text, qsizetype count);
 
 /// Whether the texts are canonically equivalent, for example the composed and the decomposed

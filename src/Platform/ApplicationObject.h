@@ -9,8 +9,8 @@
 namespace Platform {
 
 /// The only `Object` of the running application: created at the first call with the application as
-/// its parent, and created anew if the application was replaced by another. Belongs on the
-/// user-interface thread.
+/// its parent, and created again after another application object has replaced the first. Used
+/// only on the main thread.
 template<typename Object>
 Object& applicationObject()
 {

@@ -35,8 +35,8 @@ bool isX11()
 
 /// Counts the changes of the clipboard. X11 and Wayland have no counter, and
 /// QClipboard::dataChanged is emitted more than once for some changes and also without a change.
-/// The owner of the contents is reliable, so a change is a write through this class, or the loss of
-/// the contents that it wrote.
+/// The owner of the contents is reliable, so this class counts its own writes and the replacements
+/// of the contents that it wrote.
 class CountedClipboard final : public QObject
 {
 public:
@@ -59,9 +59,9 @@ public:
     void clear()
     {
         if (m_state == State::offering && !isX11() && !QGuiApplication::focusWindow()) {
-            // Compositors let a program change the clipboard only while it has the keyboard focus,
-            // and some restore a copy of their own once the offer is gone. So the offer remains,
-            // without contents, until the user returns.
+            // Compositors let a program change the clipboard only while the program has the
+            // keyboard focus, and some restore their own copy when the offer ends. So the offer
+            // remains, without contents, until the program is active again.
             m_contents->clear();
             setState(State::emptyOffer);
         } else {
@@ -76,8 +76,8 @@ protected:
         case QEvent::ApplicationActivate:
         case QEvent::KeyPress:
         case QEvent::MouseButtonPress:
-            // Qt handles the event first, because the request to the compositor carries the event's
-            // serial number.
+            // The timer expires after Qt has handled the event, because the request to the
+            // compositor carries the serial number of the event.
             QTimer::singleShot(0, this, &CountedClipboard::withdrawEmptyOffer);
             break;
         default:
@@ -88,9 +88,9 @@ protected:
 
 private:
     enum class State : std::uint8_t {
-        idle,       ///< The clipboard holds nothing of this class.
+        idle,       ///< The clipboard holds no contents of this class.
         offering,   ///< The clipboard offers a secret.
-        emptyOffer, ///< The clipboard offers a secret's contents after they were emptied.
+        emptyOffer, ///< The clipboard offers contents from which the secret was removed.
     };
 
     void setState(State state)
@@ -107,10 +107,10 @@ private:
     {
         setState(State::idle);
         if (isX11()) {
-            // Clipboard managers restore their copy to a clipboard without an owner.
+            // Clipboard managers restore their copy if the clipboard has no owner.
             m_clipboard->setMimeData(std::make_unique<QMimeData>().release());
         } else {
-            // Compositors restore the last text, which is the empty one now.
+            // Compositors restore the last text after `clear`, so the last text must be empty.
             m_clipboard->setText(QStringLiteral(""));
             m_clipboard->clear();
         }

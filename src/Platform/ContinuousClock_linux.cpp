@@ -53,8 +53,8 @@ public:
     void add(milliseconds wait, std::function<void()> task)
     {
         if (m_timer < 0) {
-            // The process had no descriptor left. A timer that stops while the machine is suspended
-            // is better than none.
+            // The process had no file descriptor left. A timer that stops while the machine is
+            // suspended is better than none.
             QTimer::singleShot(wait, Qt::PreciseTimer, this, std::move(task));
             return;
         }

@@ -20,8 +20,8 @@ void after(std::chrono::milliseconds wait, std::function<void()> task)
     QCoreApplication* const application = QCoreApplication::instance();
     const int queue = ::kqueue();
     if (queue < 0) {
-        // The process has no descriptor left. A timer that stops while the machine is suspended is
-        // better than none.
+        // The process has no file descriptor left. A timer that stops while the machine is
+        // suspended is better than none.
         QTimer::singleShot(wait, Qt::PreciseTimer, application, std::move(task));
         return;
     }

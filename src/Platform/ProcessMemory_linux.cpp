@@ -21,7 +21,7 @@ void keepFromDumps() noexcept
 void hide() noexcept
 {
 #ifdef NDEBUG
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): prctl has no other form
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): prctl is variadic
     ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 #endif
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// For builds without a sandbox of their own: macOS restricts a bundle by its entitlements, and
+// For builds without the Linux sandbox: macOS restricts a bundle by its entitlements, and
 // tests observe the program without restrictions.
 
 #include "Platform/Sandbox.h"

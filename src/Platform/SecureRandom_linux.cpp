@@ -15,7 +15,7 @@ std::int32_t fillSecureRandom(std::span<std::byte> bytes) noexcept
         const ssize_t filled = ::getrandom(bytes.data(), bytes.size(), 0);
         if (filled == std::ssize(bytes))
             return 0;
-        // A signal can interrupt a request only while it waits for the first seeding. The source
+        // A signal can interrupt a request only before the source is first seeded. The source
         // has not failed and has delivered no byte, so the same request is made again.
         if (filled < 0 && errno == EINTR)
             continue;

@@ -9,7 +9,7 @@
 
 namespace Platform {
 
-/// The user's settings for the look of all programs. Belongs on the user-interface thread.
+/// The user's settings for the look of all programs. Used only on the main thread.
 class SystemAppearance : public QObject
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ public:
     /// settings and returns before they are known.
     [[nodiscard]] static SystemAppearance& instance();
 
-    /// Whether the user prefers a dark colour scheme; absent where the system has no answer.
+    /// Whether the user prefers a dark colour scheme; absent if the system reports no preference.
     [[nodiscard]] std::optional<bool> isDark() const { return m_isDark; }
-    /// Whether programs leave out movement that only decorates.
+    /// Whether the user prefers reduced motion.
     [[nodiscard]] bool isMotionReduced() const { return m_isMotionReduced; }
-    /// Whether the settings are known, as far as the system has any.
+    /// Whether the first read of the settings has ended, with or without success.
     [[nodiscard]] bool isSettled() const { return m_isSettled; }
 
 Q_SIGNALS:

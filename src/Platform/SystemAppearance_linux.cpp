@@ -42,7 +42,7 @@ bool prefersReducedMotion(const Settings& settings)
 }
 
 /// The settings of the desktop portal, which are read once over D-Bus and then followed. Without a
-/// session bus or a portal there are none.
+/// session bus or a portal, the settings keep their defaults.
 class PortalAppearance final : public SystemAppearance
 {
 public:
@@ -56,8 +56,8 @@ public:
             return;
         }
         qDBusRegisterMetaType<Settings>();
-        // QtDBus finds the types of a signal's parameters by name, and has not registered this one
-        // (Qt 6.4). Without the registration it drops the signal.
+        // QtDBus drops a signal if a parameter's type is not registered by name, and Qt 6.4 does
+        // not register QDBusVariant.
         qRegisterMetaType<QDBusVariant>();
         connect(&m_portal, &PortalSettings::SettingChanged, this, &PortalAppearance::takeChange);
         constexpr int timeout = 5000;

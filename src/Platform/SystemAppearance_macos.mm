@@ -16,7 +16,7 @@ public:
     explicit WorkspaceAppearance(QObject* parent)
         : SystemAppearance(parent)
     {
-        // Qt's palette follows the colour scheme on macOS, so only the reduced motion is read here.
+        // Qt's palette follows the colour scheme on macOS, so only reduced motion is read here.
         update(std::nullopt, [NSWorkspace sharedWorkspace].accessibilityDisplayShouldReduceMotion);
         settle();
     }

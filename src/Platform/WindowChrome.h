@@ -9,20 +9,19 @@
 
 class QWindow;
 
-/// What the system draws around the program: the title bar of a window, and the menu bar of systems
-/// that show one for the active program.
+/// The title bar of a window, and the global menu bar of systems that have a global menu bar.
 namespace Platform::WindowChrome {
 
-/// Extends the window's contents to its top edge. The program calls this before it shows the
+/// Extends the contents of `window` to the top edge. The program calls this before it shows the
 /// window.
 void hideTitleBar(QWindow& window);
 
-/// Whether hiding the title bar removes the window's buttons and borders as well, so that the
-/// program draws the buttons and starts moves and resizes itself.
+/// Whether `hideTitleBar` also removes the window's buttons and borders, so that the program draws
+/// the buttons and starts moving and resizing the window.
 [[nodiscard]] bool usesClientSideDecorations();
 
-/// Replaces the menu bar's About item by one with this title, which calls `chosen` on the main
-/// thread. Does nothing on systems without such a menu bar.
+/// Replaces the About item of the global menu bar by an item named `title` that calls `chosen` on
+/// the main thread. Does nothing on systems without a global menu bar.
 void setAboutCommand(const QString& title, const std::function<void()>& chosen);
 
 } // namespace Platform::WindowChrome

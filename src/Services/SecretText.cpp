@@ -9,7 +9,7 @@
 
 void SecretText::wipe(QString& text)
 {
-    // Writing to shared characters detaches `text` from them, and wipes a copy.
+    // Writing to shared characters would first copy them and wipe only the copy.
     if (!text.isDetached())
         return;
     Platform::ProcessMemory::wipe(std::as_writable_bytes(std::span(text.begin(), text.end())));

@@ -59,10 +59,10 @@ CharacterGroup characterGroup(bool GeneratorSettings::* isEnabled, std::string_v
     return {isEnabled, characters, unambiguous};
 }
 
-/// The characters of each group that a password draws from.
+/// The characters of each enabled group, without look-alikes where the settings avoid them.
 std::vector<std::string_view> enabledGroups(const GeneratorSettings& settings)
 {
-    // Built once, because removing the ambiguous characters takes 5 % of the time of a password.
+    // Built once, because removing the ambiguous characters takes 5 % of the generation time.
     static const std::array groups{
         characterGroup(&GeneratorSettings::lowercase, SecureGenerator::lowercase),
         characterGroup(&GeneratorSettings::uppercase, SecureGenerator::uppercase),
@@ -110,7 +110,7 @@ QString SecureGenerator::password(const GeneratorSettings& settings) const
 
     QString result;
     auto wiping = qScopeGuard([&result] { SecretText::wipe(result); });
-    // A text that outgrew its memory would leave a part of the secret there.
+    // A text that outgrew its memory would leave a part of the secret in freed memory.
     result.reserve(std::max<qsizetype>(settings.length, std::ssize(groups)));
     if (settings.requireEveryGroup) {
         for (const std::string_view group : groups)
@@ -160,8 +160,8 @@ QString SecureGenerator::passphrase(const GeneratorSettings& settings) const
 // 0 <= v < limit holds each remainder of v mod bound exactly limit / bound times. Any other v is
 // rejected and drawn again, which happens with a probability of at most bound / 2^64.
 //
-// For a power of two, the top `bound` values are rejected although 2^64 is itself a multiple. The
-// cost of those draws is too small to measure, and the same rule serves every bound.
+// For a power of two, the top `bound` values are rejected although 2^64 is a multiple of `bound`.
+// The cost of those draws is too small to measure, and the same rule serves every bound.
 std::int64_t SecureGenerator::secureIndex(std::int64_t upperBound) const
 {
     precondition(upperBound > 0);

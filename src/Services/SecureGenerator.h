@@ -20,10 +20,10 @@
 #include <string_view>
 #include <utility>
 
-/// The generation engine. An empty value without a seed, a buffer or state between calls.
+/// The generation engine. The class has no data members and keeps no state between calls.
 ///
-/// Errors of the caller (a non-positive bound, a negative word count, a length beyond the memory)
-/// abort the program.
+/// Errors of the caller (a non-positive bound, a negative word count, a length that exceeds the
+/// memory) abort the program.
 class SecureGenerator final
 {
 public:
@@ -36,8 +36,8 @@ public:
     /// Look-alike characters. Some of them are in no group.
     static constexpr std::string_view ambiguous = "Il1O0o|`'\"";
 
-    /// The words of a passphrase. Their order is part of the behaviour: "tau" stands before
-    /// "tanne".
+    /// The words of a passphrase. Their order is part of the behaviour, and not always
+    /// alphabetical: "tau" stands before "tanne".
     static constexpr std::array<std::string_view, 76> words{
         "abend",  "anker",   "apfel",   "atlas",     "bambus",  "beere",   "birke",     "blitz",
         "brise",  "bruecke", "diamant", "dohle",     "drossel", "duene",   "eiche",     "eule",
@@ -55,9 +55,9 @@ public:
     /// partial result. Does not clamp the settings to a range.
     [[nodiscard]] QString generate(const GeneratorSettings& settings) const;
 
-    /// The estimated entropy in bits. For a passphrase, that of the settings' words and number,
-    /// which is negative for a negative word count; for a password, the number of grapheme clusters
-    /// of `text` times the bits of a character from all characters of the enabled groups.
+    /// The estimated entropy in bits. A passphrase has log2(76) bits per word of the settings and
+    /// log2(100) for the number, so a negative word count can give a negative entropy. A password
+    /// has log2(n) bits per grapheme cluster of `text`, where the enabled groups have n characters.
     [[nodiscard]] double estimatedEntropy(const QString& text,
                                           const GeneratorSettings& settings) const;
 

@@ -11,7 +11,7 @@
 #include <optional>
 
 /// Distinguishes a change of the settings from an assignment of equal settings. A view binds
-/// `settings` to the record that it observes.
+/// `settings` to the observed property of the view model.
 class GeneratorSettingsObserver : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
     }
 
 Q_SIGNALS:
-    /// The record differs from the previous one in at least one field. Not emitted for the first.
+    /// An assigned record differs from the previous record. Not emitted for the first record.
     void changed();
 
 private:

@@ -7,8 +7,8 @@
 
 #include <QtQml/qqml.h>
 
-/// Registers `GeneratorSettings` as the QML value type `generatorSettings`. The model does not link
-/// QML and cannot register it.
+/// Registers `GeneratorSettings` as the QML value type `generatorSettings`. MorvaneModel does
+/// not link QML and cannot register the type.
 struct GeneratorSettingsValue
 {
     Q_GADGET

@@ -29,7 +29,7 @@ constexpr auto hideConfirmationAfter = 1400ms;
 constexpr qint64 startingLength = 10;
 constexpr qsizetype historyLimit = 6;
 constexpr qsizetype separatorLimit = 3;
-constexpr qsizetype longestShortValue = 38;
+constexpr qsizetype shortSecretLimit = 38;
 
 } // namespace
 
@@ -79,7 +79,7 @@ void GeneratorViewModel::limitSeparator()
 
 bool GeneratorViewModel::isLong() const
 {
-    return UnicodeText::graphemeCount(m_generated) > longestShortValue;
+    return UnicodeText::graphemeCount(m_generated) > shortSecretLimit;
 }
 
 void GeneratorViewModel::setErrorPresented(bool presented)
@@ -92,19 +92,19 @@ void GeneratorViewModel::generate()
 {
     wipeReleased();
     try {
-        const QString value = m_generator.generate(m_settings);
-        setGenerated(value);
+        const QString secret = m_generator.generate(m_settings);
+        setGenerated(secret);
         setErrorMessage(std::nullopt);
-        remember(value);
+        remember(secret);
     } catch (const GeneratorError& error) {
         setErrorMessage(error.errorDescription());
     }
 }
 
-void GeneratorViewModel::useFromHistory(const QString& value)
+void GeneratorViewModel::useFromHistory(const QString& secret)
 {
     wipeReleased();
-    setGenerated(value);
+    setGenerated(secret);
 }
 
 void GeneratorViewModel::copyToClipboard()
@@ -127,9 +127,9 @@ void GeneratorViewModel::copyToClipboard()
 }
 
 // The parameter is a copy, because the argument may be a reference to `m_generated`.
-void GeneratorViewModel::setGenerated(QString value)
+void GeneratorViewModel::setGenerated(QString secret)
 {
-    release(std::exchange(m_generated, std::move(value)));
+    release(std::exchange(m_generated, std::move(secret)));
     Q_EMIT generatedChanged();
     m_entropy = m_generator.estimatedEntropy(m_generated, m_settings);
     Q_EMIT entropyChanged();
@@ -147,11 +147,11 @@ void GeneratorViewModel::setCopied(bool copied)
     Q_EMIT copiedChanged();
 }
 
-void GeneratorViewModel::remember(const QString& value)
+void GeneratorViewModel::remember(const QString& secret)
 {
-    if (!m_history.isEmpty() && m_history.constFirst() == value)
+    if (!m_history.isEmpty() && m_history.constFirst() == secret)
         return;
-    m_history.prepend(value);
+    m_history.prepend(secret);
     if (m_history.size() > historyLimit)
         release(m_history.takeLast());
     Q_EMIT historyChanged();
@@ -170,5 +170,5 @@ void GeneratorViewModel::wipeReleased()
 {
     for (QString& secret : m_released)
         SecretText::wipe(secret);
-    m_released.removeAll(QString()); // A wiped text is empty.
+    m_released.removeAll(QString()); // SecretText::wipe empties a text.
 }

@@ -14,11 +14,11 @@
 
 #include <optional>
 
-/// The state of the main window: the settings, the secret generated from them and the earlier
-/// secrets of this run of the program.
+/// The state of the main window: the settings, the displayed secret and the earlier secrets
+/// of this run of the program.
 ///
-/// Every assignment to a property emits its signal, also if the value stays the same. Belongs on
-/// the user-interface thread.
+/// Every assignment to a property emits its signal, also if the value stays the same. Used only
+/// on the main thread.
 class GeneratorViewModel : public QObject
 {
     Q_OBJECT
@@ -48,19 +48,19 @@ public:
 
     /// The settings that the next `generate` uses.
     [[nodiscard]] const GeneratorSettings& settings() const { return m_settings; }
-    /// Stores the settings without generating a secret; the views' observer does that.
+    /// Stores the settings without generating a secret. The settings panel calls `generate`.
     void setSettings(const GeneratorSettings& settings);
 
     /// The labels of all modes, in the order of `allGeneratorModes`.
     [[nodiscard]] static QStringList modeTitles();
     /// The index of the settings' mode in `modeTitles`.
     [[nodiscard]] int modeIndex() const { return static_cast<int>(m_settings.mode); }
-    /// Changes the settings' mode to the one at `index` of `modeTitles`, which is in its range.
+    /// Changes the settings' mode to the mode at the valid `index` of `allGeneratorModes`.
     void setModeIndex(int index);
     /// Whether the settings' mode is `passphrase`.
     [[nodiscard]] bool isPassphrase() const { return m_settings.mode == GeneratorMode::passphrase; }
     /// Shortens a separator of more than 3 grapheme clusters to the first 3. The shortening is a
-    /// second change of the settings, so an observer sees the long text and the shortened one.
+    /// second change of the settings, so an observer sees the long separator and the short one.
     Q_INVOKABLE void limitSeparator();
 
     /// The displayed secret.
@@ -77,10 +77,10 @@ public:
     [[nodiscard]] QString strengthTitle() const { return title(strength()); }
     /// The name of the symbol for `strength`.
     [[nodiscard]] QString strengthSymbol() const { return systemImage(strength()); }
-    /// The secrets of this run, newest first, at most 6. A repeat of the newest is not added.
+    /// The secrets of this run, newest first, at most 6. A secret equal to the newest is not added.
     [[nodiscard]] const QStringList& history() const { return m_history; }
 
-    /// The German message of the last generation; absent if the generation succeeded.
+    /// The German error message of the last generation; absent after success or dismissal.
     [[nodiscard]] const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     /// `errorMessage`, or the empty text.
     [[nodiscard]] QString errorText() const { return m_errorMessage.value_or(QString()); }
@@ -97,14 +97,14 @@ public:
     /// the previous secret.
     Q_INVOKABLE void generate();
 
-    /// Makes `value` the displayed secret, with the entropy that the current settings give. The
+    /// Makes `secret` the displayed secret and estimates its entropy with the current settings. The
     /// history keeps its order.
-    Q_INVOKABLE void useFromHistory(const QString& value);
+    Q_INVOKABLE void useFromHistory(const QString& secret);
 
     /// Writes `generated` to the clipboard and sets `copied` for 1.4 seconds. Empties the clipboard
-    /// after 30 seconds, also if this object no longer exists, unless the clipboard was written to
-    /// since. Does nothing if `generated` is empty. A further copy does not change the times of an
-    /// earlier one.
+    /// after 30 seconds, also if this object no longer exists, unless the clipboard has changed
+    /// meanwhile. Does nothing if `generated` is empty. A further copy does not change the times of
+    /// an earlier copy.
     Q_INVOKABLE void copyToClipboard();
 
 Q_SIGNALS:
@@ -116,10 +116,10 @@ Q_SIGNALS:
     void copiedChanged();
 
 private:
-    void setGenerated(QString value);
+    void setGenerated(QString secret);
     void setErrorMessage(const std::optional<QString>& message);
     void setCopied(bool copied);
-    void remember(const QString& value);
+    void remember(const QString& secret);
     void release(const QString& secret);
     void wipeReleased();
 
@@ -127,7 +127,7 @@ private:
     QString m_generated;
     double m_entropy = 0;
     QStringList m_history;
-    /// Former values of this object, which are wiped once no other QString shares their characters.
+    /// Replaced and dropped secrets, which are wiped once no other QString shares their characters.
     QStringList m_released;
     std::optional<QString> m_errorMessage;
     bool m_copied = false;

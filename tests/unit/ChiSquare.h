@@ -16,11 +16,11 @@
 namespace ChiSquare {
 
 /// The probability with which a test of a correct generator fails. The tests of uniformity compute
-/// fewer than 20 statistics, so fewer than one of 5,000,000 runs fails. The chi-square distribution
-/// approximates the statistic well enough, because every cell counts tens of thousands of events.
+/// fewer than 20 statistics, so fewer than one of 5,000,000 runs fails. The chi-squared
+/// distribution approximates the statistic well, because every cell counts thousands of events.
 inline constexpr double significance = 1e-8;
 
-/// The sum of the squared deviations from the mean count, in units of that mean.
+/// The sum of the squared deviations from the mean count, divided by that mean.
 [[nodiscard]] inline double statistic(std::span<const std::int64_t> counts)
 {
     const auto total = std::accumulate(counts.begin(), counts.end(), std::int64_t{0});
@@ -33,9 +33,9 @@ inline constexpr double significance = 1e-8;
     return sum;
 }
 
-/// The probability that a chi-square variable of `degrees` degrees of freedom is above `x`, both
-/// positive. It is the regularised incomplete gamma function Q(degrees / 2, x / 2), which for whole
-/// degrees has a closed form: Q(a + 1, y) = Q(a, y) + y^a e^-y / Gamma(a + 1), from
+/// The probability that a chi-squared variable of `degrees` (positive) degrees of freedom exceeds
+/// `x` (positive). This is the regularised incomplete gamma function Q(degrees / 2, x / 2), which
+/// for whole degrees has a closed form: Q(a + 1, y) = Q(a, y) + y^a e^-y / Gamma(a + 1), from
 /// Q(1/2, y) = erfc(sqrt(y)) or Q(1, y) = e^-y.
 [[nodiscard]] inline double upperTail(std::int64_t degrees, double x)
 {
@@ -52,7 +52,7 @@ inline constexpr double significance = 1e-8;
     return tail;
 }
 
-/// The probability that a uniform source yields counts at least as uneven as these.
+/// The probability that a uniform source yields counts at least as uneven as `counts`.
 [[nodiscard]] inline double pValue(std::span<const std::int64_t> counts)
 {
     return upperTail(std::ssize(counts) - 1, statistic(counts));

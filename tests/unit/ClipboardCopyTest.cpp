@@ -31,11 +31,11 @@ protected:
 
 TEST_F(ClipboardCopy, NeverHappensWithoutARequest)
 {
-    FakeClipboard::writeFromElsewhere(QStringLiteral("meins"));
+    FakeClipboard::writeAsAnotherProgram(QStringLiteral("meins"));
     viewModel->generate();
     viewModel->useFromHistory(viewModel->history().constLast());
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(QStringLiteral("meins"))));
-    EXPECT_EQ(FakeClock::waiting(), 0U);
+    EXPECT_EQ(FakeClock::pendingTasks(), 0U);
     EXPECT_FALSE(viewModel->copied());
 }
 
@@ -46,17 +46,17 @@ TEST_F(ClipboardCopy, PutsTheSecretOnTheClipboardAndConfirmsIt)
     EXPECT_TRUE(viewModel->copied());
 }
 
-TEST_F(ClipboardCopy, RefusesAnEmptySecretSilently)
+TEST_F(ClipboardCopy, DoesNothingForAnEmptySecret)
 {
-    FakeClipboard::writeFromElsewhere(QStringLiteral("meins"));
+    FakeClipboard::writeAsAnotherProgram(QStringLiteral("meins"));
     viewModel->useFromHistory(QString());
     viewModel->copyToClipboard();
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(QStringLiteral("meins"))));
     EXPECT_FALSE(viewModel->copied());
-    EXPECT_EQ(FakeClock::waiting(), 0U);
+    EXPECT_EQ(FakeClock::pendingTasks(), 0U);
 }
 
-TEST_F(ClipboardCopy, AnEmptySecretLeavesAnEarlierConfirmationAlone)
+TEST_F(ClipboardCopy, AnEmptySecretKeepsAnEarlierConfirmation)
 {
     viewModel->copyToClipboard();
     const QString secret = viewModel->generated();
@@ -64,7 +64,7 @@ TEST_F(ClipboardCopy, AnEmptySecretLeavesAnEarlierConfirmationAlone)
     viewModel->copyToClipboard();
     EXPECT_TRUE(viewModel->copied());
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(secret)));
-    EXPECT_EQ(FakeClock::waiting(), 2U);
+    EXPECT_EQ(FakeClock::pendingTasks(), 2U);
 }
 
 TEST_F(ClipboardCopy, IsConfirmedFor1400Milliseconds)
@@ -85,7 +85,7 @@ TEST_F(ClipboardCopy, IsClearedAfter30Seconds)
     FakeClock::advance(1ms);
     EXPECT_EQ(FakeClipboard::text(), std::nullopt);
     EXPECT_EQ(FakeClipboard::clears(), 1);
-    EXPECT_EQ(FakeClock::waiting(), 0U);
+    EXPECT_EQ(FakeClock::pendingTasks(), 0U);
 }
 
 TEST_F(ClipboardCopy, ANewSecretInTheWindowDoesNotKeepTheCopiedOneOnTheClipboard)
@@ -96,20 +96,20 @@ TEST_F(ClipboardCopy, ANewSecretInTheWindowDoesNotKeepTheCopiedOneOnTheClipboard
     EXPECT_EQ(FakeClipboard::text(), std::nullopt);
 }
 
-TEST_F(ClipboardCopy, KeepsWhatAnotherProgramWroteSince)
+TEST_F(ClipboardCopy, KeepsLaterContentsOfAnotherProgram)
 {
     viewModel->copyToClipboard();
     FakeClock::advance(10s);
-    FakeClipboard::writeFromElsewhere(QStringLiteral("meins"));
+    FakeClipboard::writeAsAnotherProgram(QStringLiteral("meins"));
     FakeClock::advance(1h);
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(QStringLiteral("meins"))));
     EXPECT_EQ(FakeClipboard::clears(), 0);
 }
 
-TEST_F(ClipboardCopy, KeepsTheSameTextOfAnotherProgram)
+TEST_F(ClipboardCopy, KeepsTheSameTextFromAnotherProgram)
 {
     viewModel->copyToClipboard();
-    FakeClipboard::writeFromElsewhere(viewModel->generated());
+    FakeClipboard::writeAsAnotherProgram(viewModel->generated());
     FakeClock::advance(30s);
     EXPECT_THAT(FakeClipboard::text(), Optional(Eq(viewModel->generated())));
 }

@@ -39,7 +39,7 @@ extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
     return static_cast<int>(::syscall(SYS_clock_gettime, clock, time));
 }
 
-/// Replaces the C library's function, so that it can fail.
+/// Replaces the C library's function, so that the call can fail.
 extern "C" int timerfd_create(clockid_t clock, int flags) noexcept
 {
     if (hasTimersLeft)
@@ -57,7 +57,7 @@ using std::chrono::steady_clock;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// The field with this name of each timer that this process holds, as the kernel lists them.
+/// The value of `field` in the kernel's description of each timer that this process holds.
 std::vector<std::string> fieldsOfTimers(const QString& field)
 {
     std::vector<std::string> values;
@@ -65,7 +65,7 @@ std::vector<std::string> fieldsOfTimers(const QString& field)
     for (const QString& name : folder.entryList(QDir::Files)) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly))
-            continue; // The descriptor is closed, as the folder's own is.
+            continue; // The descriptor is closed, for example the one that listed the folder.
         const QString text = QTextStream(&file).readAll();
         if (!text.contains(QLatin1String("clockid:")))
             continue;
@@ -219,7 +219,7 @@ TEST_F(ContinuousClockTest, WaitsAlsoIfTheSystemHasNoTimerLeft)
 
 TEST_F(ContinuousClockTest, DropsPendingTasksAtTheEnd)
 {
-    ContinuousClock::after(std::chrono::hours(1), [] { FAIL() << "at the end"; });
+    ContinuousClock::after(std::chrono::hours(1), [] { FAIL() << "a pending task ran"; });
     EXPECT_THAT(clocksOfTimers(), ElementsAre(CLOCK_BOOTTIME));
 }
 

@@ -74,9 +74,9 @@ INSTANTIATE_TEST_SUITE_P(
         Estimate{"Digits", groups(false, false, true, false), u"7"_s, 3.321928},
         Estimate{"Symbols", groups(false, false, false, true), u"7"_s, 3.700440},
         Estimate{"DigitsAndSymbols", groups(false, false, true, true), u"7"_s, 4.523562},
-        Estimate{"SmallLetters", groups(true, false, false, false), u"7"_s, 4.700440},
-        Estimate{"Capitals", groups(false, true, false, false), u"7"_s, 4.700440},
-        Estimate{"CapitalsAndDigits", groups(false, true, true, false), u"7"_s, 5.169925},
+        Estimate{"Lowercase", groups(true, false, false, false), u"7"_s, 4.700440},
+        Estimate{"Uppercase", groups(false, true, false, false), u"7"_s, 4.700440},
+        Estimate{"UppercaseAndDigits", groups(false, true, true, false), u"7"_s, 5.169925},
         Estimate{"Letters", groups(true, true, false, false), u"7"_s, 5.700440},
         Estimate{"LettersAndDigits", groups(true, true, true, false), u"7"_s, 5.954196},
         Estimate{"LettersAndSymbols", groups(true, true, false, true), u"7"_s, 6.022368},
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Estimate{"NoGroup", groups(false, false, false, false), u"abcdef"_s, 0},
                     Estimate{"EmptyText", {}, u""_s, 0},
                     Estimate{"TenCharacters", {}, u"abcdefghij"_s, 62.288187},
-                    Estimate{"TwelveWhereTwentyAreSet", {}, u"abcdefghijkl"_s, 74.745824},
+                    Estimate{"TwelveOfLengthTwenty", {}, u"abcdefghijkl"_s, 74.745824},
                     Estimate{"FifteenCharacters", {}, u"abcdefghijklmno"_s, 93.432280},
                     Estimate{"TwentyCharacters", {}, QString(20, u'a'), 124.576374},
                     Estimate{"SixtyFourCharacters", {}, QString(64, u'a'), 398.644396},
@@ -121,7 +121,7 @@ TEST(PasswordEntropy, IsTheSameWithAndWithoutLookAlikes)
               generator.estimatedEntropy(u"abcdef"_s, {.avoidAmbiguous = false}));
 }
 
-TEST(PasswordEntropy, IsTheSameWithAndWithoutTheGuarantee)
+TEST(PasswordEntropy, IsTheSameWithAndWithoutGuaranteedGroups)
 {
     EXPECT_EQ(generator.estimatedEntropy(u"abcdef"_s, {.requireEveryGroup = true}),
               generator.estimatedEntropy(u"abcdef"_s, {.requireEveryGroup = false}));
@@ -150,10 +150,11 @@ TEST(PassphraseEntropy, IgnoresTheText)
 
 TEST(PassphraseEntropy, IgnoresSeparatorAndCapitals)
 {
-    const GeneratorSettings fancy{
+    const GeneratorSettings changed{
         .mode = passphrase, .separator = u" + "_s, .capitalizeWords = true};
-    const GeneratorSettings plain{.mode = passphrase};
-    EXPECT_EQ(generator.estimatedEntropy(u""_s, fancy), generator.estimatedEntropy(u""_s, plain));
+    const GeneratorSettings defaults{.mode = passphrase};
+    EXPECT_EQ(generator.estimatedEntropy(u""_s, changed),
+              generator.estimatedEntropy(u""_s, defaults));
 }
 
 TEST(PassphraseEntropy, IgnoresThePasswordFields)

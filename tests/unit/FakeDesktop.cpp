@@ -68,7 +68,7 @@ int FakeClipboard::clears()
     return state<ClipboardState>().clears;
 }
 
-void FakeClipboard::writeFromElsewhere(const QString& text)
+void FakeClipboard::writeAsAnotherProgram(const QString& text)
 {
     replaceClipboard(text);
 }
@@ -90,7 +90,7 @@ void FakeClock::advance(milliseconds time)
     clock.now = end;
 }
 
-std::size_t FakeClock::waiting()
+std::size_t FakeClock::pendingTasks()
 {
     return state<ClockState>().tasks.size();
 }

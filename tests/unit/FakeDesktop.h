@@ -4,7 +4,7 @@
 #pragma once
 
 // Replaces the system's clipboard, clock and appearance in every executable that links
-// MorvaneFakeDesktop. Each of them has one state for the whole program.
+// MorvaneFakeDesktop. Each fake has one state for the whole program.
 
 #include <QString>
 
@@ -20,8 +20,8 @@ std::optional<QString> text();
 /// The number of times that the clipboard was cleared.
 int clears();
 
-/// Replaces the contents in the manner of another program.
-void writeFromElsewhere(const QString& text);
+/// Replaces the contents as another program does.
+void writeAsAnotherProgram(const QString& text);
 
 /// Empties the clipboard and resets the number of clears.
 void reset();
@@ -34,7 +34,7 @@ namespace FakeClock {
 void advance(std::chrono::milliseconds time);
 
 /// The number of pending tasks.
-std::size_t waiting();
+std::size_t pendingTasks();
 
 /// Sets the time to 0 and drops the pending tasks.
 void reset();
@@ -43,7 +43,7 @@ void reset();
 
 namespace FakeAppearance {
 
-/// Sets the user's settings. The appearance emits `changed` if they differ from the ones before.
+/// Sets the user's settings. The appearance emits `changed` if the settings have changed.
 void set(std::optional<bool> dark, bool reducedMotion);
 
 } // namespace FakeAppearance

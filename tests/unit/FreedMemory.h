@@ -10,7 +10,7 @@
 class FreedMemory final
 {
 public:
-    /// Searches for `text`, of 64 characters at most, until the end of the object's life.
+    /// Searches for `text`, of 64 characters at most, until the object is destroyed.
     explicit FreedMemory(QStringView text);
     ~FreedMemory();
 

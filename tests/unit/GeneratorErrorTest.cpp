@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                 u"Die Länge muss mindestens 3 betragen, damit jede Gruppe vorkommen kann."_s},
         Message{"LengthOfFour", GeneratorError::lengthTooShort(4),
                 u"Die Länge muss mindestens 4 betragen, damit jede Gruppe vorkommen kann."_s},
-        Message{"LengthWithoutGrouping", GeneratorError::lengthTooShort(1234567),
+        Message{"LengthWithoutDigitGrouping", GeneratorError::lengthTooShort(1234567),
                 u"Die Länge muss mindestens 1234567 betragen, damit jede Gruppe vorkommen kann."_s},
         Message{"LengthBelowZero", GeneratorError::lengthTooShort(-2),
                 u"Die Länge muss mindestens -2 betragen, damit jede Gruppe vorkommen kann."_s},

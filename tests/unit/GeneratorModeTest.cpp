@@ -34,7 +34,7 @@ class GeneratorModeLabel : public testing::TestWithParam<Label>
 {
 };
 
-TEST_P(GeneratorModeLabel, IsTheModesText)
+TEST_P(GeneratorModeLabel, IsTheRawValue)
 {
     EXPECT_EQ(rawValue(GetParam().mode), GetParam().text);
 }
@@ -69,10 +69,10 @@ INSTANTIATE_TEST_SUITE_P(All, GeneratorModeFromText,
                          testing::Values(ForeignText{"LowerCaseInitial", u"passwort"_s},
                                          ForeignText{"LowerCasePassphrase", u"passphrase"_s},
                                          ForeignText{"AllCapitals", u"PASSWORT"_s},
-                                         ForeignText{"CaseName", u"password"_s},
+                                         ForeignText{"EnumeratorName", u"password"_s},
                                          ForeignText{"Prefix", u"Passwor"_s},
-                                         ForeignText{"BlankBehind", u"Passwort "_s},
-                                         ForeignText{"BlankInFront", u" Passphrase"_s},
+                                         ForeignText{"TrailingSpace", u"Passwort "_s},
+                                         ForeignText{"LeadingSpace", u" Passphrase"_s},
                                          ForeignText{"Empty", u""_s}),
                          rowName);
 

@@ -129,17 +129,17 @@ INSTANTIATE_TEST_SUITE_P(
     All, GeneratorSettingsSeparator,
     testing::Values(Separators{"ComposedAndDecomposed", u"\u00e4"_s, u"a\u0308"_s, true},
                     Separators{"MarksInAnotherOrder", u"a\u0323\u0308"_s, u"a\u0308\u0323"_s, true},
-                    Separators{"HangulAndItsParts", u"\uac00"_s, u"\u1100\u1161"_s, true},
+                    Separators{"HangulSyllableAndJamo", u"\uac00"_s, u"\u1100\u1161"_s, true},
                     Separators{"SingletonAndItsCharacter", u"\u212b"_s, u"\u00c5"_s, true},
-                    Separators{"CompatibleOnly", u"\ufb01"_s, u"fi"_s, false},
+                    Separators{"CompatibilityOnly", u"\ufb01"_s, u"fi"_s, false},
                     Separators{"MarksOfTheSameClassSwapped", u"a\u0308\u0301"_s, u"a\u0301\u0308"_s,
                                false},
                     Separators{"BaseAloneAndWithMark", u"a"_s, u"a\u0308"_s, false},
                     Separators{"UpperAndLowerCase", u"x"_s, u"X"_s, false},
-                    Separators{"HyphenAndBlank", u"-"_s, u" "_s, false},
-                    Separators{"EmptyAndBlank", u""_s, u" "_s, false},
+                    Separators{"HyphenAndSpace", u"-"_s, u" "_s, false},
+                    Separators{"EmptyAndSpace", u""_s, u" "_s, false},
                     Separators{"EmptyAndNull", u""_s, QString(), true},
-                    Separators{"WithZeroCharacter", QString(QChar(0)), u""_s, false}),
+                    Separators{"NullCharacterAndEmpty", QString(QChar(0)), u""_s, false}),
     rowName);
 
 } // namespace

@@ -57,7 +57,7 @@ protected:
         viewModel.generate();
     }
 
-    /// Logs every later signal with the value that an observer reads at that moment.
+    /// Logs every later signal, with the new secret or the presence of an error message.
     void record()
     {
         QObject::connect(&viewModel, &GeneratorViewModel::settingsChanged, &viewModel,
@@ -105,7 +105,7 @@ TEST_F(GeneratorViewModelTest, DrawsItsFirstPasswordOnceWithTheStartingLength)
     EXPECT_EQ(draws.calls(), 2 * 10 - 1);
 }
 
-TEST_F(GeneratorViewModelTest, StartsWithAnErrorWhereTheRandomSourceFails)
+TEST_F(GeneratorViewModelTest, StartsWithAnErrorIfTheRandomSourceFails)
 {
     const ScriptedRandom draws([](std::uint64_t&) { return 5; });
     const GeneratorViewModel fresh;
@@ -150,7 +150,7 @@ TEST_F(GeneratorViewModelTest, SignalsOnlyTheErrorOfAFailure)
     EXPECT_THAT(log, ElementsAre(QStringLiteral("error")));
 }
 
-TEST_F(GeneratorViewModelTest, ShowsTheNewSecretBeforeItIsRated)
+TEST_F(GeneratorViewModelTest, SignalsTheNewSecretBeforeEstimatingItsEntropy)
 {
     viewModel.setSettings(singleWord());
     const double before = viewModel.entropy();
@@ -162,7 +162,7 @@ TEST_F(GeneratorViewModelTest, ShowsTheNewSecretBeforeItIsRated)
     EXPECT_DOUBLE_EQ(viewModel.entropy(), std::log2(76.0));
 }
 
-TEST_F(GeneratorViewModelTest, RatesWithTheSettingsAtThatMoment)
+TEST_F(GeneratorViewModelTest, EstimatesTheEntropyWithSettingsThatASlotChanged)
 {
     viewModel.setSettings(singleWord());
     GeneratorSettings twoWords = singleWord();
@@ -208,7 +208,7 @@ TEST_F(GeneratorViewModelTest, ComparesRepeatsByTheirExactText)
 {
     GeneratorSettings settings = singleWord();
     settings.wordCount = 2;
-    // The same separator, composed and decomposed: canonically equivalent, but not the same text.
+    // The composed and the decomposed separator are canonically equivalent, but different texts.
     settings.separator = QStringLiteral("\u00e9");
     viewModel.setSettings(settings);
     const ScriptedRandom draws({indexOfEule, indexOfEule, indexOfEule, indexOfEule});
@@ -301,7 +301,7 @@ TEST_F(GeneratorViewModelTest, ChangingSettingsGeneratesNothing)
     EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
 }
 
-TEST_F(GeneratorViewModelTest, DismissingTheErrorClearsTheMessageAndNothingElse)
+TEST_F(GeneratorViewModelTest, DismissingTheErrorClearsOnlyTheMessage)
 {
     const QString generated = viewModel.generated();
     viewModel.setSettings(withoutGroups());
@@ -314,7 +314,7 @@ TEST_F(GeneratorViewModelTest, DismissingTheErrorClearsTheMessageAndNothingElse)
     EXPECT_THAT(log, ElementsAre(QStringLiteral("no error")));
 }
 
-TEST_F(GeneratorViewModelTest, AnErrorCannotBePresentedFromOutside)
+TEST_F(GeneratorViewModelTest, SettingErrorPresentedToTrueDoesNothing)
 {
     record();
     viewModel.setErrorPresented(true);
@@ -322,7 +322,7 @@ TEST_F(GeneratorViewModelTest, AnErrorCannotBePresentedFromOutside)
     EXPECT_THAT(log, ElementsAre());
 }
 
-TEST_F(GeneratorViewModelTest, ModeIndexIsTheModesPlaceInTheTitles)
+TEST_F(GeneratorViewModelTest, ModeIndexIsTheIndexOfTheModesTitle)
 {
     EXPECT_EQ(viewModel.modeIndex(), 0);
     EXPECT_FALSE(viewModel.isPassphrase());
@@ -333,7 +333,7 @@ TEST_F(GeneratorViewModelTest, ModeIndexIsTheModesPlaceInTheTitles)
               rawValue(viewModel.settings().mode));
 }
 
-TEST_F(GeneratorViewModelTest, SettingTheModeIndexChangesTheModeAlone)
+TEST_F(GeneratorViewModelTest, SettingTheModeIndexChangesOnlyTheMode)
 {
     GeneratorSettings expected = singleWord();
     viewModel.setSettings(expected);
@@ -349,8 +349,8 @@ TEST_F(GeneratorViewModelTest, SettingTheModeIndexChangesTheModeAlone)
 
 TEST_F(GeneratorViewModelTest, IsLongFromThe39thGraphemeCluster)
 {
-    const auto isLong = [this](const QString& value) {
-        viewModel.useFromHistory(value);
+    const auto isLong = [this](const QString& secret) {
+        viewModel.useFromHistory(secret);
         return viewModel.isLong();
     };
     EXPECT_FALSE(isLong(QString()));
@@ -375,7 +375,7 @@ TEST_F(GeneratorViewModelTest, LimitsTheSeparatorToThreeGraphemeClusters)
     EXPECT_THAT(log, ElementsAre(QStringLiteral("settings")));
 }
 
-TEST_F(GeneratorViewModelTest, LeavesASeparatorOfUpToThreeGraphemeClustersAlone)
+TEST_F(GeneratorViewModelTest, KeepsASeparatorOfUpToThreeGraphemeClusters)
 {
     record();
     for (const QString& separator :

@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
                            .wordCount = 0,
                            .appendNumber = true,
                            .text = u"-7"_s},
-                    Phrase{.name = "NoWordAndTheBoundOfTheNumber",
+                    Phrase{.name = "NoWordAndADrawAtTheBoundOfTheNumber",
                            .drawn = {100},
                            .wordCount = 0,
                            .appendNumber = true,
@@ -107,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
                            .separator = u" + "_s,
                            .appendNumber = true,
                            .text = u"abend + zitrone + 7"_s},
-                    Phrase{.name = "BlankSeparator",
+                    Phrase{.name = "SpaceSeparator",
                            .drawn = {35, 64},
                            .wordCount = 2,
                            .separator = u" "_s,
@@ -120,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(
                            .capitalizeWords = true,
                            .appendNumber = true,
                            .text = u"AbendxZitronex7"_s},
-                    Phrase{.name = "DecomposedSeparatorStaysAsItIs",
+                    Phrase{.name = "DecomposedSeparatorStaysDecomposed",
                            .drawn = {0, 75, 7},
                            .wordCount = 2,
                            .separator = u"a\u0308"_s,
@@ -163,7 +163,7 @@ constexpr std::string_view expectedWords
       "stern strand tau tanne tulpe ufer vogel wald welle wiese "
       "wind wolke zeder zeit zirbe zitrone";
 
-TEST(PassphraseWords, AreTheseInThisOrder)
+TEST(PassphraseWords, AreInTheExpectedOrder)
 {
     std::string joined;
     for (const std::string_view word : SecureGenerator::words) {
@@ -194,7 +194,7 @@ TEST(PassphraseGenerationNumbers, RunFromZeroToNinetyNineWithoutPadding)
     }
 }
 
-TEST(PassphraseGenerationFields, OfPasswordsPlayNoPart)
+TEST(PassphraseGenerationSettings, IgnoreThePasswordFields)
 {
     const ScriptedRandom random{0, 75, 7};
     const GeneratorSettings settings{.mode = passphrase,

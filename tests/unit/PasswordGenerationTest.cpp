@@ -42,9 +42,9 @@ using testing::Throws;
 constexpr GeneratorMode password = GeneratorMode::password;
 
 // The groups without look-alikes, as literals, so that the test does not repeat the filter.
-constexpr std::string_view clearLowercase = "abcdefghijkmnpqrstuvwxyz";
-constexpr std::string_view clearUppercase = "ABCDEFGHJKLMNPQRSTUVWXYZ";
-constexpr std::string_view clearNumbers = "23456789";
+constexpr std::string_view unambiguousLowercase = "abcdefghijkmnpqrstuvwxyz";
+constexpr std::string_view unambiguousUppercase = "ABCDEFGHJKLMNPQRSTUVWXYZ";
+constexpr std::string_view unambiguousNumbers = "23456789";
 
 /// A source without an end, which yields the same values in every run.
 ScriptedRandom::Source endless()
@@ -83,9 +83,9 @@ TEST(PasswordGeneration, WithDefaultsHoldsEveryGroupAndNoLookAlike)
     for (int i = 0; i < 1000; ++i) {
         const std::string text = generate({});
         EXPECT_THAT(text, SizeIs(20));
-        EXPECT_TRUE(holdsAnyOf(text, clearLowercase)) << text;
-        EXPECT_TRUE(holdsAnyOf(text, clearUppercase)) << text;
-        EXPECT_TRUE(holdsAnyOf(text, clearNumbers)) << text;
+        EXPECT_TRUE(holdsAnyOf(text, unambiguousLowercase)) << text;
+        EXPECT_TRUE(holdsAnyOf(text, unambiguousUppercase)) << text;
+        EXPECT_TRUE(holdsAnyOf(text, unambiguousNumbers)) << text;
         EXPECT_TRUE(holdsAnyOf(text, SecureGenerator::symbols)) << text;
         EXPECT_FALSE(holdsAnyOf(text, "Il1O0o")) << text;
     }
@@ -104,15 +104,15 @@ TEST(PasswordGeneration, OfDigitsWithoutLookAlikesHoldsOnlyTwoToNine)
 
 TEST(PasswordGeneration, DrawsEachGroupThenThePoolThenTheOrder)
 {
-    // The four groups' characters, two of the pool, and every element swapped with itself.
+    // One draw for each of the four groups, two for the pool, and each element stays in its place.
     const ScriptedRandom random{1, 2, 3, 4, 68, 24, 5, 4, 3, 2, 1};
     EXPECT_EQ(generate({.length = 6}), "bC5%~A");
     EXPECT_EQ(random.calls(), 11);
 }
 
-TEST(PasswordGeneration, PutsTheGuaranteedCharactersInDrawnPlaces)
+TEST(PasswordGeneration, ShufflesTheGuaranteedCharacters)
 {
-    // The same characters, with each element from the last to the second swapped with the first.
+    // The same characters; then each element from the last to the second swaps with the first.
     const ScriptedRandom random{1, 2, 3, 4, 68, 24, 0, 0, 0, 0, 0};
     EXPECT_EQ(generate({.length = 6}), "C5%~Ab");
     EXPECT_EQ(random.calls(), 11);
@@ -144,7 +144,7 @@ TEST(PasswordGeneration, OfFourCharactersReachesEveryOrderOfTheGroups)
 
 TEST(PasswordGeneration, DrawsGuaranteedCharactersFromTheirOwnGroup)
 {
-    // The first script draws the last index of each group, the second one the index after the last.
+    // `last` draws the last index of each group, and `wrapped` draws the index after the last.
     const ScriptedRandom last{23, 23, 7, 12, 3, 2, 1};
     EXPECT_EQ(generate({.length = 4}), "zZ9~");
     const ScriptedRandom wrapped{24, 24, 8, 13, 3, 2, 1};
@@ -191,11 +191,11 @@ protected:
         const auto [groups, avoidAmbiguous] = GetParam();
         std::string pool;
         if ((groups & 1) != 0)
-            pool += avoidAmbiguous ? clearLowercase : "abcdefghijklmnopqrstuvwxyz";
+            pool += avoidAmbiguous ? unambiguousLowercase : "abcdefghijklmnopqrstuvwxyz";
         if ((groups & 2) != 0)
-            pool += avoidAmbiguous ? clearUppercase : "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+            pool += avoidAmbiguous ? unambiguousUppercase : "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
         if ((groups & 4) != 0)
-            pool += avoidAmbiguous ? clearNumbers : "0123456789";
+            pool += avoidAmbiguous ? unambiguousNumbers : "0123456789";
         if ((groups & 8) != 0)
             pool += "!@#$%&*+-=?_~";
         return pool;
@@ -227,7 +227,7 @@ TEST_P(PasswordPool, YieldsItsCharactersByIndex)
     EXPECT_EQ(pool, expectedPool());
 }
 
-TEST_P(PasswordPool, IsDrawnFromWithItsSizeAsTheBound)
+TEST_P(PasswordPool, HasItsSizeAsTheBound)
 {
     const ScriptedRandom random{expectedPool().size()};
     EXPECT_EQ(generate(settings()), expectedPool().substr(0, 1));
@@ -262,7 +262,8 @@ INSTANTIATE_TEST_SUITE_P(
                     DrawCount{"FourGuaranteed", {.length = 4}, 7},
                     DrawCount{"TenGuaranteed", {.length = 10}, 19},
                     DrawCount{"TwentyGuaranteed", {.length = 20}, 39},
-                    DrawCount{"TwentyFree", {.length = 20, .requireEveryGroup = false}, 39},
+                    DrawCount{
+                        "TwentyWithoutGuarantee", {.length = 20, .requireEveryGroup = false}, 39},
                     DrawCount{"SixtyFour", {.length = 64}, 127},
                     DrawCount{"Thousand", {.length = 1000}, 1999}),
     rowName);
@@ -286,7 +287,7 @@ TEST_P(PasswordRejection, ComesBeforeAnyDraw)
     EXPECT_EQ(random.calls(), 0);
 }
 
-GeneratorSettings shortened(std::string_view groups, qint64 length, bool requireEveryGroup = true)
+GeneratorSettings withGroups(std::string_view groups, qint64 length, bool requireEveryGroup = true)
 {
     auto settings = withGroups(groups);
     settings.length = length;
@@ -300,29 +301,30 @@ constexpr auto highest = std::numeric_limits<qint64>::max();
 INSTANTIATE_TEST_SUITE_P(
     NoGroup, PasswordRejection,
     testing::Values(
-        Rejection{"DefaultLength", shortened("", 20), GeneratorError::noCharacterSet()},
-        Rejection{"LengthZero", shortened("", 0), GeneratorError::noCharacterSet()},
-        Rejection{"LengthZeroFree", shortened("", 0, false), GeneratorError::noCharacterSet()},
-        Rejection{"LowestLength", shortened("", lowest), GeneratorError::noCharacterSet()},
-        Rejection{"HighestLength", shortened("", highest), GeneratorError::noCharacterSet()}),
+        Rejection{"DefaultLength", withGroups("", 20), GeneratorError::noCharacterSet()},
+        Rejection{"LengthZero", withGroups("", 0), GeneratorError::noCharacterSet()},
+        Rejection{"LengthZeroWithoutGuarantee", withGroups("", 0, false),
+                  GeneratorError::noCharacterSet()},
+        Rejection{"LowestLength", withGroups("", lowest), GeneratorError::noCharacterSet()},
+        Rejection{"HighestLength", withGroups("", highest), GeneratorError::noCharacterSet()}),
     rowName);
 
 INSTANTIATE_TEST_SUITE_P(
     LengthBelowGroupCount, PasswordRejection,
     testing::Values(
-        Rejection{"ThreeGroupsTwo", shortened("aA0", 2), GeneratorError::lengthTooShort(3)},
-        Rejection{"FourGroupsThree", shortened("aA0!", 3), GeneratorError::lengthTooShort(4)},
-        Rejection{"TwoGroupsOne", shortened("0!", 1), GeneratorError::lengthTooShort(2)},
-        Rejection{"OneGroupZero", shortened("A", 0), GeneratorError::lengthTooShort(1)},
-        Rejection{"OneGroupBelowZero", shortened("a", -1), GeneratorError::lengthTooShort(1)},
-        Rejection{"FourGroupsLowest", shortened("aA0!", lowest),
+        Rejection{"ThreeGroupsTwo", withGroups("aA0", 2), GeneratorError::lengthTooShort(3)},
+        Rejection{"FourGroupsThree", withGroups("aA0!", 3), GeneratorError::lengthTooShort(4)},
+        Rejection{"TwoGroupsOne", withGroups("0!", 1), GeneratorError::lengthTooShort(2)},
+        Rejection{"OneGroupZero", withGroups("A", 0), GeneratorError::lengthTooShort(1)},
+        Rejection{"OneGroupBelowZero", withGroups("a", -1), GeneratorError::lengthTooShort(1)},
+        Rejection{"FourGroupsLowest", withGroups("aA0!", lowest),
                   GeneratorError::lengthTooShort(4)}),
     rowName);
 
 TEST(PasswordGeneration, AcceptsTwoCharactersWithoutTheGuarantee)
 {
     const ScriptedRandom random{0, 24, 1};
-    EXPECT_EQ(generate(shortened("aA0", 2, false)), "aA");
+    EXPECT_EQ(generate(withGroups("aA0", 2, false)), "aA");
     EXPECT_EQ(random.calls(), 3);
 }
 
@@ -330,10 +332,10 @@ class EmptyPassword : public testing::TestWithParam<qint64>
 {
 };
 
-TEST_P(EmptyPassword, CostsNoDraw)
+TEST_P(EmptyPassword, TakesNoDraw)
 {
     const ScriptedRandom random{};
-    EXPECT_EQ(generate(shortened("a", GetParam(), false)), "");
+    EXPECT_EQ(generate(withGroups("a", GetParam(), false)), "");
     EXPECT_EQ(random.calls(), 0);
 }
 
@@ -355,7 +357,7 @@ TEST(PasswordGeneration, IgnoresThePassphraseFields)
     EXPECT_EQ(generate(settings), "aA2!");
 }
 
-TEST(PasswordGeneration, KeepsNothingBetweenCalls)
+TEST(PasswordGeneration, KeepsNoStateBetweenCalls)
 {
     for (int i = 0; i < 2; ++i) {
         const ScriptedRandom random{0, 0, 0, 0, 3, 2, 1};
@@ -376,12 +378,12 @@ TEST_P(PasswordRandomFailure, EndsTheGenerationAtOnce)
     EXPECT_EQ(random.calls(), static_cast<std::int64_t>(GetParam()) + 1);
 }
 
-// Six characters cost eleven draws: four guaranteed, two of the pool and five of the order.
+// Six characters take eleven draws: four for the groups, two for the pool, five for the shuffle.
 INSTANTIATE_TEST_SUITE_P(AfterDraws, PasswordRandomFailure,
                          testing::Range(std::size_t{0}, std::size_t{11}),
                          testing::PrintToStringParamName());
 
-TEST(PasswordGenerationDeathTest, StopsTheProgramOnALengthBeyondTheMemory)
+TEST(PasswordGenerationDeathTest, StopsTheProgramIfTheLengthExceedsTheMemory)
 {
     const ScriptedRandom random{};
     EXPECT_DEATH(generate({.length = highest}), "SecureGenerator");

@@ -44,8 +44,8 @@ inline void PrintTo(const GeneratorSettings& settings, std::ostream* out)
          << (settings.appendNumber ? ", number" : "");
 }
 
-/// Prints a row of a table test as its name. Found only for types of a namespace with
-/// `using ::PrintTo;`.
+/// Prints a row of a table test as its name. GoogleTest finds this template only for types of a
+/// namespace with `using ::PrintTo;`.
 template<typename Row>
     requires requires(const Row& row) { row.name; }
 void PrintTo(const Row& row, std::ostream* out)

@@ -51,7 +51,7 @@ std::uint64_t chosenSeed()
 /// How the random source behaves during one generation.
 struct SourceBehavior
 {
-    /// The index, from 0, of the accepted draw that fails instead.
+    /// The index, from 0, of the draw that fails. Rejected values do not count as draws.
     std::optional<std::int64_t> failsAt;
     std::int32_t status = 0;
     /// How many of 16 requests yield a value that every bound rejects.
@@ -173,14 +173,16 @@ Outcome generate(const GeneratorSettings& settings, const SourceBehavior& behavi
 
 std::vector<std::string_view> groupsOf(const GeneratorSettings& settings)
 {
-    const bool clear = settings.avoidAmbiguous;
+    const bool unambiguous = settings.avoidAmbiguous;
     std::vector<std::string_view> groups;
     if (settings.lowercase)
-        groups.emplace_back(clear ? "abcdefghijkmnpqrstuvwxyz" : "abcdefghijklmnopqrstuvwxyz");
+        groups.emplace_back(unambiguous ? "abcdefghijkmnpqrstuvwxyz"
+                                        : "abcdefghijklmnopqrstuvwxyz");
     if (settings.uppercase)
-        groups.emplace_back(clear ? "ABCDEFGHJKLMNPQRSTUVWXYZ" : "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+        groups.emplace_back(unambiguous ? "ABCDEFGHJKLMNPQRSTUVWXYZ"
+                                        : "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
     if (settings.numbers)
-        groups.emplace_back(clear ? "23456789" : "0123456789");
+        groups.emplace_back(unambiguous ? "23456789" : "0123456789");
     if (settings.symbols)
         groups.emplace_back("!@#$%&*+-=?_~");
     return groups;
@@ -193,7 +195,7 @@ std::int64_t expectedDraws(const GeneratorSettings& settings)
     return settings.length > 0 ? 2 * settings.length - 1 : 0;
 }
 
-/// The error that the settings and the source's behaviour lead to, if any.
+/// The error that the settings or the source's behaviour cause, if any.
 std::optional<GeneratorError> expectedError(const GeneratorSettings& settings,
                                             const SourceBehavior& behavior)
 {
@@ -242,7 +244,7 @@ bool isNumberUpTo99(QStringView text)
 }
 
 // A separator may be empty or equal a word or a number, so a text can be parsed in several ways.
-// The function follows all of them at once: `places` holds the ends of all prefixes that parse.
+// The function tries all ways together: `places` holds the ends of all prefixes that parse.
 bool isValidPassphrase(QStringView text, const GeneratorSettings& settings)
 {
     std::vector<qsizetype> places{0};
@@ -326,7 +328,7 @@ struct InvalidSecret
     QString text;
 };
 
-/// Texts that the checks above must reject.
+/// Texts that `isValidSecret` must reject.
 class InvalidSecretTest : public testing::TestWithParam<InvalidSecret>
 {
 };

@@ -17,7 +17,7 @@ namespace {
 
 ScriptedRandom* installed = nullptr;
 
-// A function that must not throw calls the source, so a failed expectation ends the program.
+// Aborts instead of throwing, because the noexcept function fillSecureRandom calls the source.
 [[noreturn]] void stop(const char* message)
 {
     std::cerr << "ScriptedRandom: " << message << '\n';

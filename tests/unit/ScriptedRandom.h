@@ -11,7 +11,7 @@
 //
 // A drawn index is the drawn value modulo the bound, so a value below the bound is the index.
 // Without a script, the source yields the same pseudorandom values in every run of the program, for
-// tests that need any secrets.
+// tests that accept any secret.
 
 #include <QtGlobal>
 
@@ -43,7 +43,7 @@ public:
     explicit ScriptedRandom(std::vector<std::uint64_t> values,
                             std::optional<FailsWith> failure = std::nullopt);
 
-    /// Passes every request on to `source`, without end.
+    /// Passes every request to `source`.
     explicit ScriptedRandom(Source source);
 
     ~ScriptedRandom();
@@ -51,7 +51,7 @@ public:
     /// The number of requests, including failed ones.
     [[nodiscard]] std::int64_t calls() const { return m_calls; }
 
-    /// Answers a request in place of the system.
+    /// Sets `value` to the drawn value and returns 0, or returns the status of a failure.
     [[nodiscard]] std::int32_t draw(std::uint64_t& value);
 
 private:

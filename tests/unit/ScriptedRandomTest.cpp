@@ -32,7 +32,7 @@ Drawn draw()
     return drawn;
 }
 
-TEST(ScriptedRandom, RestoresTheEarlierScriptAtItsEnd)
+TEST(ScriptedRandom, RestoresTheEarlierScriptWhenDestroyed)
 {
     const ScriptedRandom outer{1, 2};
     {

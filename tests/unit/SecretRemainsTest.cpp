@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Checks that no part of a secret remains in freed memory.
+// Checks that no part of a secret remains in freed memory, nor the character pool on the stack.
 
 #include "FreedMemory.h"
 #include "Model/GeneratorError.h"
@@ -47,7 +47,7 @@ TEST(FreedMemoryTest, FindsTextThatWasNotWiped)
     EXPECT_EQ(freed.matches(), 1);
 }
 
-TEST(SecretTextTest, IsNotInFreedMemory)
+TEST(SecretTextTest, LeavesNothingInFreedMemory)
 {
     const QString needle = repeated(u'q', 10);
     const FreedMemory freed(needle);
@@ -58,7 +58,7 @@ TEST(SecretTextTest, IsNotInFreedMemory)
     EXPECT_EQ(freed.matches(), 0);
 }
 
-TEST(SecretTextTest, StaysIfAnotherStringSharesIt)
+TEST(SecretTextTest, DoesNotWipeASharedText)
 {
     QString text = repeated(u'q', 10);
     const QString shared = text;
@@ -67,7 +67,7 @@ TEST(SecretTextTest, StaysIfAnotherStringSharesIt)
     EXPECT_EQ(text, shared);
 }
 
-TEST(SecretTextTest, MayBeEmpty)
+TEST(SecretTextTest, AcceptsAnEmptyText)
 {
     QString none;
     SecretText::wipe(none);
@@ -212,17 +212,17 @@ TEST_F(ReleasedSecretsTest, AreWipedOnceNoOtherStringSharesThem)
     viewModel.setSettings(tenLetters());
     const FreedMemory freed(secret);
     generate(viewModel, 0);
-    QString view = viewModel.generated();
+    QString copy = viewModel.generated();
     for (std::uint64_t letter = 1; letter <= 8; ++letter)
         generate(viewModel, letter);
-    EXPECT_EQ(view, secret);
-    view = QString();
+    EXPECT_EQ(copy, secret);
+    copy = QString();
     EXPECT_EQ(freed.matches(), 0);
     generate(viewModel, 9);
     EXPECT_EQ(freed.matches(), 0);
 }
 
-TEST_F(ReleasedSecretsTest, AreWipedAtTheEnd)
+TEST_F(ReleasedSecretsTest, AreWipedWhenTheViewModelIsDestroyed)
 {
     const QString secret = repeated(u'a', 10);
     const FreedMemory freed(secret);

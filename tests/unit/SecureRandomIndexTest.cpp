@@ -37,7 +37,7 @@ using testing::Throws;
 constexpr auto highest = std::numeric_limits<std::uint64_t>::max();
 constexpr auto highestBound = std::numeric_limits<std::int64_t>::max();
 
-TEST(SecureRandomIndex, CostsOneDrawEvenWithASingleChoice)
+TEST(SecureRandomIndex, TakesOneDrawEvenForASingleChoice)
 {
     const ScriptedRandom random{highest - 1};
     EXPECT_EQ(SecureGenerator().secureIndex(1), 0);
@@ -51,7 +51,7 @@ TEST(SecureRandomIndex, DrawsAgainAfterTheHighestValue)
     EXPECT_EQ(random.calls(), 2);
 }
 
-TEST(SecureRandomIndex, DrawsAgainAsOftenAsItTakes)
+TEST(SecureRandomIndex, DrawsAgainUntilAValueIsAccepted)
 {
     const ScriptedRandom random{highest, highest, highest - 1, highest, 3};
     EXPECT_EQ(SecureGenerator().secureIndex(2), 1);
@@ -64,7 +64,7 @@ struct Threshold
     std::int64_t bound;
     /// The lowest value that is rejected.
     std::uint64_t limit;
-    /// The index of the value below it.
+    /// The index of the value below `limit`.
     std::int64_t lastIndex;
 };
 
@@ -124,7 +124,7 @@ TEST(SecureRandomIndex, RejectsAllSixteenTopValuesOfTwentySix)
     }
 }
 
-TEST(SecureRandomIndex, OfThreeWrapsASmallValueAfterARejectedOne)
+TEST(SecureRandomIndex, OfThreeIsTheRemainderOfTheValueAfterARejection)
 {
     const ScriptedRandom random{highest, 7};
     EXPECT_EQ(SecureGenerator().secureIndex(3), 1);
@@ -184,7 +184,7 @@ INSTANTIATE_TEST_SUITE_P(NonPositive, SecureRandomIndexDeathTest,
                                                            : "Lowest";
                          });
 
-TEST(SecurePick, OfASingleElementCostsOneDraw)
+TEST(SecurePick, OfASingleElementTakesOneDraw)
 {
     const ScriptedRandom random{12345};
     EXPECT_EQ(SecureGenerator().pick(std::array{7}), 7);
@@ -201,7 +201,7 @@ TEST(SecurePick, TakesTheElementAtTheDrawnIndex)
     EXPECT_EQ(SecureGenerator().pick(list), "a");
 }
 
-TEST(SecurePick, PassesAFailureOn)
+TEST(SecurePick, ThrowsTheFailureOfTheSource)
 {
     const ScriptedRandom random({}, FailsWith{-3});
     EXPECT_THAT([] { return SecureGenerator().pick(std::array{7, 8}); },
@@ -214,7 +214,7 @@ TEST(SecurePickDeathTest, StopsTheProgramOnAnEmptyList)
     EXPECT_DEATH(static_cast<void>(SecureGenerator().pick(std::vector<int>())), "SecureGenerator");
 }
 
-TEST(SecureShuffle, LeavesAnEmptyListWithoutADraw)
+TEST(SecureShuffle, OfAnEmptyListTakesNoDraw)
 {
     const ScriptedRandom random{};
     std::vector<int> list;
@@ -223,7 +223,7 @@ TEST(SecureShuffle, LeavesAnEmptyListWithoutADraw)
     EXPECT_EQ(random.calls(), 0);
 }
 
-TEST(SecureShuffle, LeavesASingleElementWithoutADraw)
+TEST(SecureShuffle, OfASingleElementTakesNoDraw)
 {
     const ScriptedRandom random{};
     std::vector list{7};
@@ -243,7 +243,7 @@ class SecureShuffleOfTwo : public testing::TestWithParam<PairOrder>
 {
 };
 
-TEST_P(SecureShuffleOfTwo, CostsOneDrawOfTwo)
+TEST_P(SecureShuffleOfTwo, TakesOneDrawWithABoundOfTwo)
 {
     const ScriptedRandom random{GetParam().drawn};
     std::vector list{7, 8};

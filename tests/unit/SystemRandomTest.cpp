@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Tests the system's real source. The definition of `getrandom` in this program takes precedence
+// Tests the system's random source. The definition of `getrandom` in this program takes precedence
 // over the C library's, and passes requests on to the kernel unless a test has scripted the
 // answers.
 
@@ -63,7 +63,7 @@ protected:
 
     void TearDown() override { scripted = false; }
 
-    /// Lets the following requests return the results of `script`, one each.
+    /// The following requests return the results in `script`, in order.
     static void answerWith(std::vector<Answer> script)
     {
         answers = std::move(script);
@@ -116,7 +116,7 @@ TEST_F(SystemRandom, FillsWithDifferentBytesEveryTime)
 
 TEST_F(SystemRandom, FillsEveryByte)
 {
-    // A byte that keeps its value through 64 requests by chance does so once in 2^512 runs.
+    // By chance, a byte has the same value after all 64 requests once in 2^504 runs.
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         std::set<std::byte> values;
         for (int j = 0; j < 64; ++j) {
@@ -152,7 +152,7 @@ TEST_F(SystemRandom, RepeatsAnInterruptedRequest)
     EXPECT_THAT(requests, ElementsAre(wholeValue, wholeValue, wholeValue));
 }
 
-TEST_F(SystemRandom, FailsAfterAnInterruptionAsWithoutOne)
+TEST_F(SystemRandom, FailsAlsoAfterAnInterruptedRequest)
 {
     answerWith({{.filled = -1, .error = EINTR}, {.filled = -1, .error = EFAULT}});
     EXPECT_EQ(fill(), EFAULT);
@@ -204,7 +204,7 @@ TEST_F(SystemRandom, FillsEightBytesPerDraw)
     EXPECT_THAT(requests, testing::AllOf(SizeIs(39), Each(Eq(wholeValue))));
 }
 
-TEST_F(SystemRandom, IsReadInTheMachinesByteOrder)
+TEST_F(SystemRandom, IsReadAsOneValueOf64Bits)
 {
     answerWith({{.filled = 8, .error = 0}});
     EXPECT_EQ(SecureGenerator().secureIndex(0x7fff'ffff'ffff'ffff),

@@ -67,7 +67,7 @@ std::vector<BoundaryCase> boundaryCases()
     return cases;
 }
 
-/// The number of cases that the last lines of the file state. Later versions of Unicode have more.
+/// The number of cases that the last lines of the file state.
 std::size_t statedBoundaryCaseCount()
 {
     constexpr std::string_view label = "# Lines: ";
@@ -144,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Counted{"LoneSurrogate", QString(QChar(0xd83d)), 1}),
     rowName);
 
-TEST(FirstGraphemeClusters, LeavesAShorterTextAsItIs)
+TEST(FirstGraphemeClusters, ReturnsAShorterTextUnchanged)
 {
     EXPECT_EQ(UnicodeText::firstGraphemes(u"ab"_s, 3), u"ab"_s);
     EXPECT_EQ(UnicodeText::firstGraphemes(u"a\u0308"_s, 3), u"a\u0308"_s);
@@ -170,7 +170,7 @@ class CanonicalEquivalence : public testing::TestWithParam<Equivalence>
 {
 };
 
-TEST_P(CanonicalEquivalence, HoldsBothWays)
+TEST_P(CanonicalEquivalence, IsTheSameInBothDirections)
 {
     const auto& [name, left, right, equivalent] = GetParam();
     EXPECT_EQ(UnicodeText::canonicallyEquivalent(left, right), equivalent);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Tests that the choices drawn from the system's real source are uniform, and that the statistic
-// detects choices that are not.
+// Tests that the choices drawn from the system's random source are uniform, and that the
+// chi-squared test detects choices that are not uniform.
 
 #include "ChiSquare.h"
 #include "Printing.h"
@@ -39,7 +39,7 @@ std::size_t cell(std::int64_t index)
     return static_cast<std::size_t>(index);
 }
 
-/// The number of the permutation of "abcd", from 0 to 23 in alphabetical order.
+/// The index of `text` in the alphabetical list of the 24 permutations of "abcd".
 std::size_t permutationNumber(std::string_view text)
 {
     static const auto numbers = [] {
@@ -64,7 +64,7 @@ char groupOf(char c)
     return 'd';
 }
 
-/// The groups of a fresh password's characters, as one of the letters a to d each.
+/// Generates a password and replaces each character by a letter (a to d) for its group.
 std::string groupsOfPassword(const GeneratorSettings& settings)
 {
     std::string groups = SecureGenerator().generate(settings).toStdString();
@@ -142,9 +142,9 @@ TEST(GuaranteeUniformity, HoldsForAllOrdersOfTheGroupsInFourCharacters)
 }
 
 // If a password has a single character of a group, that character is the guaranteed one. A uniform
-// shuffle moves it to each of the ten places with the same probability, so over independent
-// passwords the places of a group's single character are uniform. Passwords with more characters of
-// the group are not counted, because the places of those characters depend on each other.
+// shuffle moves that character to each of the ten places with the same probability, so the place is
+// uniform over independent passwords. Passwords with more characters of the group are not counted,
+// because the places of those characters depend on each other.
 TEST(GuaranteeUniformity, HoldsForThePlacesOfTheGroupsInTenCharacters)
 {
     std::array<Counts, 4> counts;

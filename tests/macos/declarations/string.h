@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// Declarations of this header that macOS has and the GNU C library lacks.
+// Declarations of string.h that macOS has and the GNU C library lacks.
 
 #pragma once
 
