@@ -13,8 +13,8 @@ namespace Platform::Sandbox {
 /// starts later, so the program calls this before it starts a thread.
 void restrictFilesystem() noexcept;
 
-/// Prevents all threads of the process from opening network sockets, starting programs and
-/// examining other processes.
+/// Prevents all threads of the process from opening network sockets, starting programs, examining
+/// other processes and setting extended attributes of files.
 void installSyscallFilter() noexcept;
 
 } // namespace Platform::Sandbox

@@ -440,7 +440,7 @@ def main():
     parser = argparse.ArgumentParser(description="compares the program's window with a bare window")
     parser.add_argument("program")
     parser.add_argument("bare")
-    parser.add_argument("--rounds", type=int, default=15)
+    parser.add_argument("--rounds", type=int, default=40)
     parser.add_argument("--idle-seconds", type=float, default=30.0)
     parser.add_argument("--starts-only", action="store_true", help="do not measure idle and drag")
     options = parser.parse_args()
