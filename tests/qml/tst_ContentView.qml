@@ -13,8 +13,9 @@ TestCase {
 
     property ContentView content: null
 
+    // The alert is built for the first error.
     function alertIsShown(): bool {
-        return findChild(content, "errorAlert").opened;
+        return findChild(content, "errorAlert")?.opened ?? false;
     }
 
     function init() {
