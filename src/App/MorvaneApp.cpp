@@ -125,9 +125,8 @@ std::unique_ptr<QQuickWindow> createMainWindow(QQmlEngine& engine)
     component.loadUrl(QStringLiteral("qrc:/qt/qml/Morvane/App/MainWindow.qml"),
                       QQmlComponent::Asynchronous);
     // Qt compiles the types on a thread of its own. Meanwhile this thread does what does not depend
-    // on them: the first frame comes 12 % earlier than after the same work in sequence, 10 % of
-    // that by the fonts (tests/bench/window_bench.py --starts-only, 40 starts of each program by
-    // turns).
+    // on them. The first frame comes 12 % earlier than after the same work in sequence; without the
+    // fonts, only 2 % earlier (tests/bench/window_bench.py --starts-only, 40 starts by turns).
     loadFontsOfFirstFrame();
     QGuiApplication::setWindowIcon(windowIcon());
     hideProcessAfterPortalAnswered();
