@@ -22,9 +22,10 @@ namespace {
 std::unique_ptr<QMimeData> secretContents(const QString& text)
 {
     auto contents = std::make_unique<QMimeData>();
-    contents->setText(text);
-    // Clipboard managers do not store contents that offer this type with this value.
+    // Clipboard managers do not store contents that offer this type with this value. The type is
+    // the first, because Weston keeps a copy of the first type only.
     contents->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
+    contents->setText(text);
     return contents;
 }
 

@@ -45,6 +45,9 @@ size=1
 """
 """A command of CopyQ 6.4 for ignoring secrets. CopyQ 10 ignores secrets without this command."""
 
+MARK = "secret"
+"""The contents of the first format of a copied secret."""
+
 PRINT_NAMES = """
 import desktop, pyatspi
 for program in pyatspi.Registry.getDesktop(0):
@@ -58,6 +61,23 @@ def version(package):
     answer = output("dpkg-query", "--show", "--showformat", "${Version}", package)
     found = re.match(r"(?:\d+:)?(\d+(?:\.\d+)*)", answer)
     return tuple(map(int, found[1].split("."))) if found else (sys.maxsize,)
+
+
+def shown_secrets(session):
+    """The shown secret and the history of the session's program.
+
+    A child process reads the names, because AT-SPI connects each process to one bus only.
+    """
+    answer = subprocess.run(
+        ["timeout", "10", sys.executable, "-B", "-W", "ignore", "-c", PRINT_NAMES],
+        env={**session.environment, "PYTHONPATH": str(pathlib.Path(__file__).parent)},
+        stdin=subprocess.DEVNULL,
+        stdout=subprocess.PIPE,
+        stderr=subprocess.DEVNULL,
+        text=True,
+        check=False,
+    ).stdout
+    return [name for name in answer.splitlines() if re.fullmatch(SECRET, name)]
 
 
 class ManagedSession(X11Session):
@@ -199,11 +219,10 @@ class WestonDesktop(Desktop):
 
 
 class Weston(WaylandSession):
-    """Weston restores the last text whenever the clipboard is empty."""
+    """Weston copies the first format of each offer, and restores its copy when the offer ends."""
 
     def __init__(self):
         Session.__init__(self, WestonDesktop(), Program)
-        self.environment["PYTHONPATH"] = str(pathlib.Path(__file__).parent)
 
     def start(self):
         """Returns at once, because `press_copy` waits for the keyboard focus."""
@@ -217,27 +236,13 @@ class Weston(WaylandSession):
 
         The window loses the keyboard focus for about a second when wl-paste reads the clipboard.
         """
-        before = wait_for(self.secrets, "a visible secret")
+        before = wait_for(lambda: shown_secrets(self), "a visible secret")
 
         def has_changed():
             self.run("xdotool", "key", "ctrl+r")
-            return self.secrets() not in ([], before)
+            return shown_secrets(self) not in ([], before)
 
         wait_for(has_changed, "another visible secret")
-
-    def has_recorded(self, _text):
-        """Always true: Weston requests a copied text before a test can request the text, and the
-        program answers requests in order."""
-        return True
-
-    def secrets(self):
-        """The shown secret and the history.
-
-        A child process reads the names, because AT-SPI connects each process to one bus only.
-        """
-        names = self.run(sys.executable, "-B", "-W", "ignore", "-c", PRINT_NAMES).splitlines()
-        return [name for name in names if re.fullmatch(SECRET, name)]
-
 
 def text_of_an_ended_program_is_restored(session):
     session.copy()
@@ -269,6 +274,28 @@ def cleared_secret_is_restored_when_the_program_ends(session):
     secret = copy_and_wait_until_cleared(session)
     session.quit()
     wait_for(lambda: session.text() == secret, "the secret that this manager restores")
+
+
+def compositor_does_not_keep_the_secret(session):
+    session.copy()
+    session.program.process.terminate()
+    session.program.process.wait()
+    wait_for(lambda: session.text() == MARK, "the compositor's copy of the first format")
+
+
+def secret_does_not_stay_when_the_focus_is_lost(session):
+    session.copy()
+    switch_windows = ("keydown", "super", "key", "Tab", "sleep", "0.5", "keyup", "super")
+
+    def is_replaced():
+        # While Super is held, no window has the keyboard focus. When the program releases its view
+        # of the clipboard for this reason, Weston cancels the program's offer and restores its own
+        # copy, so the program cannot empty the clipboard any more.
+        session.wait_for_keyboard_focus()
+        session.run("xdotool", *switch_windows)
+        return session.text() == MARK
+
+    wait_for(is_replaced, "the compositor's copy of the first format", 2 * DEADLINE)
 
 
 def compositor_does_not_restore_a_cleared_secret(session):
@@ -345,7 +372,8 @@ class ClipboardManagers(ParallelScenarios, unittest.TestCase):
         (Clipman, quitting_does_not_wait_for_the_manager),
         (SettingsDaemon, manager_takes_over_the_secret_when_the_program_ends),
         (CopyQ, manager_does_not_record_the_secret),
-        (Weston, text_of_an_ended_program_is_restored),
+        (Weston, compositor_does_not_keep_the_secret),
+        (Weston, secret_does_not_stay_when_the_focus_is_lost),
         (Weston, compositor_does_not_restore_a_cleared_secret),
     )
 

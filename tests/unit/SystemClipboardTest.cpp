@@ -15,9 +15,9 @@
 namespace {
 
 namespace Clipboard = Platform::Clipboard;
+using testing::ElementsAre;
 using testing::Gt;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
 
 /// Runs on the offscreen platform, where Qt provides a clipboard for this program only.
 class SystemClipboardTest : public testing::Test
@@ -34,13 +34,14 @@ private:
     QGuiApplication m_application{m_argumentCount, m_arguments.data()};
 };
 
-TEST_F(SystemClipboardTest, HoldsTheSecretAsPlainTextWithAMark)
+TEST_F(SystemClipboardTest, HoldsTheSecretAsPlainTextAfterAMark)
 {
     Clipboard::setSecret(QStringLiteral("geheim"));
     EXPECT_EQ(contents().text(), QStringLiteral("geheim"));
-    EXPECT_THAT(contents().mimeData()->formats(),
-                UnorderedElementsAre(QStringLiteral("text/plain"),
-                                     QStringLiteral("x-kde-passwordManagerHint")));
+    // Weston keeps a copy of the first format.
+    EXPECT_THAT(
+        contents().mimeData()->formats(),
+        ElementsAre(QStringLiteral("x-kde-passwordManagerHint"), QStringLiteral("text/plain")));
     EXPECT_EQ(contents().mimeData()->data(QStringLiteral("x-kde-passwordManagerHint")), "secret");
 }
 
