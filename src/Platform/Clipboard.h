@@ -15,8 +15,9 @@ namespace Platform::Clipboard {
 /// managers where the system has such a mark.
 void setSecret(const QString& text);
 
-/// Empties the clipboard. Where the desktop does not let a background program empty the clipboard,
-/// offers empty contents until the program is active again, and then empties the clipboard.
+/// Empties the clipboard. On X11, the clipboard contains a placeholder for 600 ms before. Where the
+/// desktop does not let a background program empty the clipboard, offers empty contents until the
+/// program is active again, and then empties the clipboard.
 void clear();
 
 /// A counter that increases with every write through this interface, and when another program

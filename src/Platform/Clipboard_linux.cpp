@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <chrono>
+#include <cstdint>
 #include <memory>
 
 namespace Platform::Clipboard {
@@ -28,6 +30,12 @@ std::unique_ptr<QMimeData> secretContents(const QString& text)
     contents->setText(text);
     return contents;
 }
+
+/// A zero-width space. Diodon 1.13 does not keep blank texts and would keep the secret instead.
+constexpr QChar placeholderText(0x200B);
+
+/// Parcellite 1.2 reads the clipboard every 500 ms.
+constexpr std::chrono::milliseconds placeholderDuration(600);
 
 bool isX11()
 {
@@ -49,17 +57,19 @@ public:
 
     [[nodiscard]] std::int64_t changeCount() const { return m_changeCount; }
 
-    void setSecret(const QString& text)
-    {
-        auto contents = secretContents(text);
-        m_contents = contents.get();
-        setState(State::offering);
-        m_clipboard->setMimeData(contents.release());
-    }
+    void setSecret(const QString& text) { offer(text, State::offering); }
 
     void clear()
     {
-        if (m_state == State::offering && !isX11() && !QGuiApplication::focusWindow()) {
+        if (isX11()) {
+            // Some clipboard managers keep the last text and offer this text when the program ends.
+            // The placeholder replaces the secret in these managers.
+            offer(QString(placeholderText), State::placeholder);
+            QTimer::singleShot(placeholderDuration, this, [this] {
+                if (m_state == State::placeholder)
+                    emptyClipboard();
+            });
+        } else if (m_state == State::offering && !QGuiApplication::focusWindow()) {
             // Compositors let a program change the clipboard only while the program has the
             // keyboard focus, and some restore their own copy when the offer ends. So the offer
             // remains, without contents, until the program is active again.
@@ -89,9 +99,10 @@ protected:
 
 private:
     enum class State : std::uint8_t {
-        idle,       ///< The clipboard holds no contents of this class.
-        offering,   ///< The clipboard offers a secret.
-        emptyOffer, ///< The clipboard offers contents from which the secret was removed.
+        idle,        ///< The clipboard holds no contents of this class.
+        offering,    ///< The clipboard offers a secret.
+        placeholder, ///< The clipboard offers the placeholder, for a short time.
+        emptyOffer,  ///< The clipboard offers contents from which the secret was removed.
     };
 
     void setState(State state)
@@ -102,6 +113,14 @@ private:
             QCoreApplication::instance()->installEventFilter(this);
         else
             QCoreApplication::instance()->removeEventFilter(this);
+    }
+
+    void offer(const QString& text, State state)
+    {
+        auto contents = secretContents(text);
+        m_contents = contents.get();
+        setState(state);
+        m_clipboard->setMimeData(contents.release());
     }
 
     void emptyClipboard()
