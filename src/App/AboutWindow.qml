@@ -26,6 +26,7 @@ Window {
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
+        autoRepeat: false
         enabled: root.activeFocusItem !== null
         sequences: ["Escape", "Ctrl+W"]
 
@@ -33,6 +34,7 @@ Window {
     }
 
     Shortcut {
+        autoRepeat: false
         enabled: root.activeFocusItem !== null
         sequence: "Ctrl+Q"
 

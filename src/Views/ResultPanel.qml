@@ -125,6 +125,7 @@ Rectangle {
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
+        autoRepeat: false
         enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+R"
 
@@ -132,6 +133,7 @@ Rectangle {
     }
 
     Shortcut {
+        autoRepeat: false
         enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+Shift+C"
 

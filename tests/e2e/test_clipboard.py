@@ -13,9 +13,13 @@ import itertools
 import os
 import re
 import subprocess
+import tempfile
 import time
 import unittest
 from unittest import mock
+
+from Xlib.display import Display
+from Xlib.ext import xfixes
 
 from desktop import DEADLINE, Desktop, Program, find_first, key, output, role_name, wait_for
 from wayland import APPLICATION, WaylandDesktop, WaylandProgram
@@ -132,6 +136,31 @@ class X11Session(Session):
         return self.run("xclip", "-o", "-selection", "clipboard", "-t", SECRET_HINT)
 
     @contextlib.contextmanager
+    def change_counter(self):
+        """A function that returns the number of changes of the clipboard since the first line of
+        the `with` block."""
+        display = Display(self.environment["DISPLAY"])
+        display.xfixes_query_version()
+        display.xfixes_select_selection_input(
+            display.screen().root,
+            display.get_atom("CLIPBOARD"),
+            xfixes.XFixesSetSelectionOwnerNotifyMask,
+        )
+        display.sync()
+        changes = []
+
+        def count():
+            # The server sends the events before the reply, so all earlier changes are pending.
+            display.sync()
+            changes.extend(display.next_event() for _ in range(display.pending_events()))
+            return len(changes)
+
+        try:
+            yield count
+        finally:
+            display.close()
+
+    @contextlib.contextmanager
     def other_window_active(self):
         """Gives the keyboard focus to a window of another program."""
         other = subprocess.Popen(
@@ -184,6 +213,29 @@ class WaylandSession(Session):
 
     def secret_hint(self):
         return self.run("wl-paste", "--no-newline", "--type", SECRET_HINT)
+
+    @contextlib.contextmanager
+    def change_counter(self):
+        """A function that returns the number of texts that have been put on the clipboard since the
+        first line of the `with` block. The text that was there before does not count."""
+        with tempfile.TemporaryFile() as lines:
+            watcher = subprocess.Popen(
+                ["wl-paste", "--watch", "echo"],
+                env=self.environment,
+                stdin=subprocess.DEVNULL,
+                stdout=lines,
+                stderr=subprocess.DEVNULL,
+            )
+
+            def size():
+                return os.fstat(lines.fileno()).st_size
+
+            try:
+                wait_for(size, "the text that was on the clipboard before")
+                yield lambda: size() - 1
+            finally:
+                watcher.terminate()
+                watcher.wait()
 
     @contextlib.contextmanager
     def other_window_active(self):

@@ -3,6 +3,7 @@
 
 """A Wayland desktop for the program under test: sway with a headless output, and D-Bus."""
 
+import contextlib
 import json
 import os
 import shutil
@@ -174,6 +175,10 @@ class WaylandDesktop(Desktop):
         for combination in combinations:
             self._input.press_key(*combination.split("+"))
 
+    def held_key(self, combination):
+        """Holds a key combination until the end of a `with` block."""
+        return self._input.held_key(*combination.split("+"))
+
     def screenshot(self, name, node=None):
         """Saves an image of the output or of one window."""
         ARTIFACTS.mkdir(parents=True, exist_ok=True)
@@ -272,6 +277,12 @@ class VirtualInput:
 
     def press_key(self, *names):
         """Presses and releases the last key while the keys before it, the modifiers, are held."""
+        with self.held_key(*names):
+            pass
+
+    @contextlib.contextmanager
+    def held_key(self, *names):
+        """Holds the modifiers and then the last key until the end of a `with` block."""
         *held, last = names
         bits = 0
         for name in held:
@@ -279,6 +290,7 @@ class VirtualInput:
             bits |= bit
             self._key(code, True, bits)
         self._key(KEYS[last], True, bits)
+        yield
         self._key(KEYS[last], False, bits)
         for name in reversed(held):
             code, bit = MODIFIERS[name]

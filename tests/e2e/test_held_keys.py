@@ -1,0 +1,90 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""The shortcuts of buttons act once while their keys are held.
+
+The test uses Wayland, because Qt 6.4 does not mark all repeated key presses on X11 as repeated.
+"""
+
+import os
+import time
+import unittest
+from unittest import mock
+
+from desktop import wait_for
+from test_clipboard import Session, WaylandSession
+from test_endurance import RandomSource
+from wayland import WaylandDesktop
+
+REPETITIONS = 12
+"""The number of repetitions for which the tests hold a key."""
+
+DRAWS_OF_A_STEP = 50
+"""More random draws than a password of at most 10 + REPETITIONS characters takes."""
+
+TABS_TO_SLIDER = 2
+
+
+class Wayland(WaylandSession):
+    def __init__(self, source):
+        Session.__init__(self, WaylandDesktop(), source.start_program)
+
+    def press(self, combination):
+        self.desktop.key(combination)
+
+    def held_key(self, combination):
+        return self.desktop.held_key(combination)
+
+
+class HeldKeys(unittest.TestCase):
+    def setUp(self):
+        self.enterContext(mock.patch.dict(os.environ))
+        self.source = RandomSource()
+        self.addCleanup(self.source.close)
+        self.session = Wayland(self.source)
+        self.addCleanup(self.session.close)
+        self.session.start()
+        self.session.copy()  # waits until the window reacts to keys
+
+    def copy(self):
+        """Copies once and waits for the copy. The program handles keys in order, so the effects of
+        all earlier keys are complete afterwards."""
+        with self.session.change_counter() as changes:
+            self.session.press_copy()
+            wait_for(changes, "a copy")
+
+    def repetition_time(self):
+        """The seconds that a held key takes to move a slider by REPETITIONS steps."""
+        for _ in range(TABS_TO_SLIDER):
+            self.session.press("Tab")
+        self.copy()
+        expected = self.source.draws + REPETITIONS * DRAWS_OF_A_STEP
+        start = time.monotonic()
+        with self.session.held_key("Right"):
+            wait_for(lambda: self.source.draws >= expected, "repetitions of a held key")
+        elapsed = time.monotonic() - start
+        self.copy()
+        return elapsed
+
+    def test_the_shortcut_for_another_secret(self):
+        elapsed = self.repetition_time()
+        start = self.source.draws
+        self.session.press("ctrl+r")
+        self.copy()
+        draws_of_a_secret = self.source.draws - start
+        self.assertGreater(draws_of_a_secret, 0)
+        with self.session.held_key("ctrl+r"):
+            time.sleep(elapsed)
+        self.copy()
+        self.assertEqual(self.source.draws - start, 2 * draws_of_a_secret)
+
+    def test_the_shortcut_for_copying(self):
+        elapsed = self.repetition_time()
+        with self.session.change_counter() as changes:
+            with self.session.held_key("ctrl+shift+c"):
+                time.sleep(elapsed)
+            self.assertEqual(changes(), 1)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
