@@ -7,14 +7,17 @@
 #include "Platform/ProcessMemory.h"
 #include "Platform/Sandbox.h"
 #include "Platform/SystemAppearance.h"
+#include "Platform/Termination.h"
 #include "Platform/WindowChrome.h"
 #include "Views/Controls/Appearance.h"
 
+#include <QDebug>
 #include <QEventLoop>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -22,11 +25,13 @@
 #include <QQuickWindow>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <thread>
+#include <utility>
 
 Q_IMPORT_QML_PLUGIN(Morvane_AppPlugin)
 Q_IMPORT_QML_PLUGIN(Morvane_ViewModelPlugin)
@@ -37,17 +42,22 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Handles Qt's messages during the connection to the display: prints the message and, if it is
-/// fatal, exits with a German message. Qt's default handler aborts, which leaves a core dump.
+/// Qt's warnings during the connection to the display.
+QStringList& earlyWarnings()
+{
+    static QStringList warnings;
+    return warnings;
+}
+
+/// Handles Qt's messages during the connection to the display: exits if the message is fatal. Qt's
+/// default handler aborts.
 void exitWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
                         const QString& message)
 {
-    std::cerr << qPrintable(message) << '\n';
-    if (type == QtFatalMsg) {
-        std::cerr << "Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.\n"
-                  << std::flush;
-        std::_Exit(EXIT_FAILURE);
-    }
+    if (type == QtFatalMsg)
+        Platform::Termination::fail(
+            "Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.");
+    earlyWarnings() << message;
 }
 
 /// The software renderer measures glyphs at scale 1. At other scales, hinted glyphs are wider than
@@ -59,18 +69,6 @@ void disableHintingOnScaledDisplays(const QGuiApplication& application)
     QFont font = QGuiApplication::font();
     font.setHintingPreference(QFont::PreferNoHinting);
     QGuiApplication::setFont(font);
-}
-
-/// The desktop portal inspects a process that requests settings, and does not answer a hidden
-/// process. After the first answer, the portal does not inspect the process again.
-void hideProcessAfterPortalAnswered()
-{
-    const auto& appearance = Platform::SystemAppearance::instance();
-    if (appearance.isSettled())
-        Platform::ProcessMemory::hide();
-    else
-        QObject::connect(&appearance, &Platform::SystemAppearance::settled, &appearance,
-                         Platform::ProcessMemory::hide);
 }
 
 /// Loads the font files that the first frame needs.
@@ -129,7 +127,6 @@ std::unique_ptr<QQuickWindow> createMainWindow(QQmlEngine& engine)
     // fonts, only 2 % earlier (tests/bench/window_bench.py --starts-only, 40 starts by turns).
     loadFontsOfFirstFrame();
     QGuiApplication::setWindowIcon(windowIcon());
-    hideProcessAfterPortalAnswered();
     if (component.isLoading()) {
         QEventLoop loop;
         QObject::connect(&component, &QQmlComponent::statusChanged, &loop, &QEventLoop::quit);
@@ -160,10 +157,17 @@ void limitShutdown(int status)
 
 int MorvaneApp::run(int argc, char** argv) const
 {
-    Platform::ProcessMemory::keepFromDumps();
+    Platform::Sandbox::discardInheritance();
+    Platform::Termination::reportSignals();
+    if (!Platform::Termination::hasEnoughResources())
+        Platform::Termination::fail(
+            "Morvane braucht mindestens 64 Dateideskriptoren und 1 GiB Adressraum.");
+    Platform::ProcessMemory::hide();
     // Restricts this thread and the threads that it starts later. The connection to the display
     // starts threads, so the restriction comes first.
     Platform::Sandbox::restrictFilesystem();
+    // Starts a process, which the system call filter refuses.
+    Platform::SystemAppearance::startReading(Platform::Sandbox::installSyscallFilter);
 
     QCoreApplication::setApplicationName(QStringLiteral("morvane"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Morvane"));
@@ -177,12 +181,25 @@ int MorvaneApp::run(int argc, char** argv) const
     // creates a cache folder.
     qputenv("MESA_SHADER_CACHE_DISABLE", "true");
 
+    // Debug messages of Qt's accessibility contain secrets. Qt's configuration file can turn them
+    // on, but is weaker than these rules.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n"
+                                                    "*.info=false\n"
+                                                    "*.warning=true\n"
+                                                    "*.critical=true\n"
+                                                    "qt.accessibility.*=false\n"));
     const QtMessageHandler handler = qInstallMessageHandler(exitWithoutDisplay);
-    const QGuiApplication application(argc, argv);
+    // The filter refuses the connection to a display on another machine.
+    const bool isDisplayRemote = Platform::Sandbox::isDisplayRemote();
+    if (!isDisplayRemote)
+        Platform::Sandbox::installSyscallFilter();
+    int argumentCount = std::min(argc, 1); // Qt's options load plugins.
+    const QGuiApplication application(argumentCount, argv);
+    if (isDisplayRemote)
+        Platform::Sandbox::installSyscallFilter();
     qInstallMessageHandler(handler);
-    // The filter refuses the connection to a display on another machine, so the filter is installed
-    // after the connection, but before the first secret is generated.
-    Platform::Sandbox::installSyscallFilter();
+    for (const QString& warning : std::as_const(earlyWarnings()))
+        qWarning().noquote() << warning;
     disableHintingOnScaledDisplays(application);
     GermanKeyNames keyNames;
     QCoreApplication::installTranslator(&keyNames);

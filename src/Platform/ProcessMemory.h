@@ -9,12 +9,9 @@
 /// The memory of this process, which holds secrets.
 namespace Platform::ProcessMemory {
 
-/// Excludes the memory from core dumps. Does nothing in builds with assertions, which are for
-/// debugging.
-void keepFromDumps() noexcept;
-
 /// Denies debuggers and other programs of the user access to the memory and to most of the
-/// process's entries in /proc. Does nothing in builds with assertions, which are for debugging.
+/// process's entries in /proc, and excludes the memory from core dumps. Does nothing in builds with
+/// assertions, which are for debugging.
 void hide() noexcept;
 
 /// Overwrites `bytes` with zeros. The compiler does not optimise the writes away.

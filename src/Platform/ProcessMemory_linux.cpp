@@ -10,19 +10,14 @@
 
 namespace Platform::ProcessMemory {
 
-void keepFromDumps() noexcept
-{
-#ifdef NDEBUG
-    const rlimit none{0, 0};
-    ::setrlimit(RLIMIT_CORE, &none);
-#endif
-}
-
 void hide() noexcept
 {
 #ifdef NDEBUG
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): prctl is variadic
     ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
+    // The kernel passes no core dump to a program if the limit is 1; it does so if the limit is 0.
+    const rlimit limit{1, 1};
+    ::setrlimit(RLIMIT_CORE, &limit);
 #endif
 }
 

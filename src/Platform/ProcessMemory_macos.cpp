@@ -13,18 +13,12 @@
 
 namespace Platform::ProcessMemory {
 
-void keepFromDumps() noexcept
-{
-#ifdef NDEBUG
-    const rlimit none{0, 0};
-    ::setrlimit(RLIMIT_CORE, &none);
-#endif
-}
-
 void hide() noexcept
 {
 #ifdef NDEBUG
     ::ptrace(PT_DENY_ATTACH, 0, nullptr, 0);
+    const rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
 #endif
 }
 

@@ -8,13 +8,22 @@
 /// system has no such restrictions, the functions do nothing.
 namespace Platform::Sandbox {
 
+/// Closes inherited file descriptors, except standard input, output and error, and removes the
+/// environment variables that load plugins into Qt, turn on Qt's log or connect to a session
+/// manager. Called before the program starts a thread.
+void discardInheritance() noexcept;
+
 /// Denies writing, creating, renaming, removing and executing files, except for writing to the
 /// devices that a display and libraries need. Restricts the calling thread and the threads that it
 /// starts later, so the program calls this before it starts a thread.
 void restrictFilesystem() noexcept;
 
-/// Prevents all threads of the process from opening network sockets, starting programs, examining
-/// other processes and setting extended attributes of files.
+/// Whether the connection to the display needs an Internet socket.
+[[nodiscard]] bool isDisplayRemote() noexcept;
+
+/// Denies all threads of the process every system call that a display, an input method, a screen
+/// reader or a theme does not need: Internet sockets, starting programs, examining and signalling
+/// other processes, changing the attributes of files, creating executable code.
 void installSyscallFilter() noexcept;
 
 } // namespace Platform::Sandbox

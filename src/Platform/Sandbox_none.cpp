@@ -8,8 +8,17 @@
 
 namespace Platform::Sandbox {
 
+void discardInheritance() noexcept
+{
+}
+
 void restrictFilesystem() noexcept
 {
+}
+
+bool isDisplayRemote() noexcept
+{
+    return false;
 }
 
 void installSyscallFilter() noexcept

@@ -18,11 +18,14 @@ public:
     {
         // Qt's palette follows the colour scheme on macOS, so only reduced motion is read here.
         update(std::nullopt, [NSWorkspace sharedWorkspace].accessibilityDisplayShouldReduceMotion);
-        settle();
     }
 };
 
 } // namespace
+
+void SystemAppearance::startReading(void (* /*restrictReader*/)())
+{
+}
 
 SystemAppearance& SystemAppearance::instance()
 {

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 
-// A library for LD_PRELOAD that tests the sandbox inside the program. When the program draws its
-// first random number, every thread attempts to write files, open sockets, start processes and so
-// on. The sandbox forbids most of these attempts. Each attempt writes one line to standard error:
+// A library for LD_PRELOAD that attacks from inside the program. When the program draws its first
+// random number, every thread makes the attempts below. Each attempt writes one line to standard
+// error:
 //
 //     probe <thread> <attempt> <0 for success, otherwise the value of errno>
+//
+// Attempts whose success would harm the machine or the process have an invalid argument. They fail
+// in any case, but with ENOSYS only if the sandbox refuses them.
 
 #include <algorithm>
 #include <array>
@@ -21,15 +24,22 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <linux/fs.h>
 #include <linux/io_uring.h>
+#include <sched.h>
 #include <semaphore.h>
+#include <sys/ioctl.h>
+#include <sys/ipc.h>
 #include <sys/mman.h>
+#include <sys/personality.h>
+#include <sys/prctl.h>
 #include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <sys/shm.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
-#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -64,14 +74,14 @@ int errorOfOpen(int descriptor)
     return error;
 }
 
-int errorOfSocket(long family)
+int errorOfSocket(long family, long type)
 {
-    return errorOfOpen(static_cast<int>(::syscall(SYS_socket, family, SOCK_DGRAM, 0)));
+    return errorOfOpen(static_cast<int>(::syscall(SYS_socket, family, type, 0)));
 }
 
-/// The number and the last argument of the system call setxattrat, which the headers of Linux 6.12
-/// and older do not declare.
+/// System calls that the headers of Linux 6.12 and older do not declare.
 constexpr long setxattrat = 463;
+constexpr long fileSetattr = 469;
 struct SetXattrArguments
 {
     const char* value;
@@ -79,25 +89,45 @@ struct SetXattrArguments
     std::uint32_t flags;
 };
 
-/// Runs a function in a child process; returns the function's result.
-template<typename Function>
-int runInChild(Function function)
+constexpr int noDescriptor = -1;
+
+/// The error of a call that needs a descriptor of the existing file.
+template<typename Call>
+int errorOnFile(Call call)
 {
-    const pid_t child = ::_Fork();
-    if (child == 0)
-        ::_exit(function());
-    int status = 0;
-    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    const int file = ::open(paths().file.c_str(), O_RDONLY);
+    const int error = errorOf(call(file));
+    ::close(file);
+    return error;
 }
 
-int startProgram()
+template<typename... Arguments>
+int errorOfCall(Arguments... arguments)
 {
-    std::array<char, 10> name{"/bin/true"};
-    std::array<char*, 2> arguments{name.data(), nullptr};
-    std::array<char*, 1> environment{nullptr};
-    return errorOf(::execve(name.data(), arguments.data(), environment.data()));
+    return errorOf(::syscall(arguments...));
+}
+
+int forkProcess()
+{
+    const long child = ::syscall(SYS_clone, SIGCHLD, nullptr, nullptr, nullptr, nullptr);
+    if (child == 0)
+        ::_exit(0);
+    return errorOf(child);
+}
+
+int mapPages(int protection)
+{
+    void* const pages
+        = ::mmap(nullptr, 4096, protection, MAP_PRIVATE | MAP_ANONYMOUS, noDescriptor, 0);
+    return pages == MAP_FAILED ? errno : errorOf(::munmap(pages, 4096));
+}
+
+int makePagesExecutable()
+{
+    void* const pages = ::mmap(nullptr, 4096, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    const int error = errorOf(::mprotect(pages, 4096, PROT_READ | PROT_EXEC));
+    ::munmap(pages, 4096);
+    return error;
 }
 
 int readMemory()
@@ -115,14 +145,20 @@ int setUpIoUring()
     return errorOfOpen(static_cast<int>(::syscall(SYS_io_uring_setup, 1, &parameters)));
 }
 
+int requestOnNothing(unsigned long request)
+{
+    return errorOf(::ioctl(noDescriptor, request, nullptr));
+}
+
 struct Attempt
 {
     const char* name;
     int (*run)();
 };
 
-// Each attempt restores the files for the next thread.
+// Each attempt restores the files for the next thread, as far as the sandbox lets it.
 constexpr std::array attempts{
+    // Contents and names of files
     Attempt{"create",
             [] {
                 const int error
@@ -133,21 +169,7 @@ constexpr std::array attempts{
     Attempt{"write", [] { return errorOfOpen(::open(paths().file.c_str(), O_WRONLY)); }},
     Attempt{"append",
             [] { return errorOfOpen(::open(paths().file.c_str(), O_WRONLY | O_APPEND)); }},
-    Attempt{"set-xattr",
-            [] { return errorOf(::setxattr(paths().file.c_str(), "user.probe", "1", 1, 0)); }},
-    Attempt{"set-xattr-descriptor",
-            [] {
-                const int file = ::open(paths().file.c_str(), O_RDONLY);
-                const int error = errorOf(::fsetxattr(file, "user.probe", "1", 1, 0));
-                ::close(file);
-                return error;
-            }},
-    Attempt{"set-xattr-at",
-            [] {
-                const SetXattrArguments arguments{"1", 1, 0};
-                return errorOf(::syscall(setxattrat, AT_FDCWD, paths().file.c_str(), 0,
-                                         "user.probe", &arguments, sizeof(arguments)));
-            }},
+    Attempt{"truncate", [] { return errorOf(::truncate(paths().file.c_str(), 9)); }},
     Attempt{"rename",
             [] {
                 const int error = errorOf(::rename(paths().file.c_str(), paths().fresh.c_str()));
@@ -184,20 +206,123 @@ constexpr std::array attempts{
                 ::unlink(paths().fresh.c_str());
                 return error;
             }},
-    Attempt{"exec", [] { return runInChild(startProgram); }},
-    Attempt{"ptrace",
-            [] { return runInChild([] { return errorOf(::ptrace(PTRACE_TRACEME, 0, 0, 0)); }); }},
-    Attempt{"read-memory", readMemory},
-    Attempt{"io-uring", setUpIoUring},
-    Attempt{"internet", [] { return errorOfSocket(AF_INET); }},
-    Attempt{"internet-6", [] { return errorOfSocket(AF_INET6); }},
+
+    // Attributes of files
+    Attempt{"setxattr",
+            [] { return errorOf(::setxattr(paths().file.c_str(), "user.probe", "1", 1, 0)); }},
+    Attempt{"fsetxattr",
+            [] {
+                return errorOnFile(
+                    [](int file) { return ::fsetxattr(file, "user.probe", "1", 1, 0); });
+            }},
+    Attempt{"setxattrat",
+            [] {
+                const SetXattrArguments arguments{"1", 1, 0};
+                return errorOfCall(setxattrat, AT_FDCWD, paths().file.c_str(), 0, "user.probe",
+                                   &arguments, sizeof(arguments));
+            }},
+    Attempt{"removexattr",
+            [] { return errorOf(::removexattr(paths().file.c_str(), "user.absent")); }},
+    Attempt{"file_setattr", [] { return errorOfCall(fileSetattr, noDescriptor, 0, 0, 0, 0); }},
+    Attempt{"chmod", [] { return errorOf(::chmod(paths().file.c_str(), 0644)); }},
+    Attempt{"fchmod",
+            [] { return errorOnFile([](int file) { return ::fchmod(file, 0644); }); }},
+    Attempt{"chown", [] { return errorOf(::chown(paths().file.c_str(), ::geteuid(), -1U)); }},
+    Attempt{"fchown",
+            [] { return errorOnFile([](int file) { return ::fchown(file, ::geteuid(), -1U); }); }},
+    Attempt{"utimensat",
+            [] { return errorOf(::utimensat(AT_FDCWD, paths().file.c_str(), nullptr, 0)); }},
+    Attempt{"futimens",
+            [] { return errorOnFile([](int file) { return ::futimens(file, nullptr); }); }},
+    Attempt{"FS_IOC_SETFLAGS", [] { return requestOnNothing(FS_IOC_SETFLAGS); }},
+    Attempt{"FS_IOC_SETVERSION", [] { return requestOnNothing(FS_IOC_SETVERSION); }},
+    Attempt{"FS_IOC_FSSETXATTR", [] { return requestOnNothing(FS_IOC_FSSETXATTR); }},
+
+    // Terminals
+    Attempt{"TIOCSTI", [] { return requestOnNothing(TIOCSTI); }},
+    Attempt{"TIOCLINUX", [] { return requestOnNothing(TIOCLINUX); }},
+
+    // Other programs and other processes
+    Attempt{"fork", forkProcess},
+    Attempt{"clone3", [] { return errorOfCall(SYS_clone3, nullptr, 0); }},
+    Attempt{"execve", [] { return errorOfCall(SYS_execve, "/nonexistent", nullptr, nullptr); }},
+    Attempt{"execveat",
+            [] {
+                return errorOfCall(SYS_execveat, noDescriptor, "", nullptr, nullptr, AT_EMPTY_PATH);
+            }},
+    Attempt{"ptrace", [] { return errorOfCall(SYS_ptrace, PTRACE_CONT, 0, 0, 0); }},
+    Attempt{"process_vm_readv", readMemory},
+    Attempt{"kill", [] { return errorOf(::kill(::getppid(), 0)); }},
+    Attempt{"tgkill", [] { return errorOfCall(SYS_tgkill, ::getppid(), ::getppid(), 0); }},
+    Attempt{"rt_sigqueueinfo",
+            [] { return errorOfCall(SYS_rt_sigqueueinfo, ::getppid(), 0, nullptr); }},
+    Attempt{"pidfd_open",
+            [] { return errorOfOpen(static_cast<int>(::syscall(SYS_pidfd_open, ::getppid(), 0))); }},
+    Attempt{"pidfd_getfd", [] { return errorOfCall(SYS_pidfd_getfd, noDescriptor, 0, 0); }},
+    Attempt{"pidfd_send_signal",
+            [] { return errorOfCall(SYS_pidfd_send_signal, noDescriptor, 0, nullptr, 0); }},
+    Attempt{"prlimit",
+            [] {
+                rlimit limit{};
+                return errorOf(::prlimit(::getppid(), RLIMIT_NOFILE, nullptr, &limit));
+            }},
+    Attempt{"setpriority", [] { return errorOf(::setpriority(PRIO_PROCESS, 0, 0)); }},
+    Attempt{"PR_SET_DUMPABLE", [] { return errorOf(::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0)); }},
+    Attempt{"PR_SET_PTRACER", [] { return errorOf(::prctl(PR_SET_PTRACER, 0, 0, 0, 0)); }},
+
+    // The kernel
+    Attempt{"unshare", [] { return errorOf(::unshare(0)); }},
+    Attempt{"setns", [] { return errorOf(::setns(noDescriptor, 0)); }},
+    Attempt{"mount", [] { return errorOfCall(SYS_mount, nullptr, nullptr, nullptr, 0, nullptr); }},
+    Attempt{"chroot", [] { return errorOfCall(SYS_chroot, nullptr); }},
+    Attempt{"add_key", [] { return errorOfCall(SYS_add_key, nullptr, nullptr, nullptr, 0, 0); }},
+    Attempt{"keyctl", [] { return errorOfCall(SYS_keyctl, -1, 0, 0, 0, 0); }},
+    Attempt{"msgget", [] { return errorOfCall(SYS_msgget, 1, 0); }},
+    Attempt{"semget", [] { return errorOfCall(SYS_semget, 1, 0, 0); }},
+    Attempt{"shmget", [] { return errorOfCall(SYS_shmget, 1, 1, 0); }},
+    Attempt{"mq_open", [] { return errorOfCall(SYS_mq_open, nullptr, 0, 0, nullptr); }},
+    Attempt{"perf_event_open",
+            [] { return errorOfCall(SYS_perf_event_open, nullptr, 0, 0, -1, 0); }},
+    Attempt{"bpf", [] { return errorOfCall(SYS_bpf, -1, nullptr, 0); }},
+    Attempt{"userfaultfd", [] { return errorOfCall(SYS_userfaultfd, -1); }},
+    Attempt{"personality", [] { return errorOf(::personality(0xffffffff)); }},
+    Attempt{"io_uring_setup", setUpIoUring},
+    Attempt{"open_by_handle_at",
+            [] { return errorOfCall(SYS_open_by_handle_at, noDescriptor, nullptr, 0); }},
+
+    // Executable memory
+    Attempt{"mmap-write-exec", [] { return mapPages(PROT_READ | PROT_WRITE | PROT_EXEC); }},
+    Attempt{"mprotect-exec", makePagesExecutable},
+
+    // Sockets
+    Attempt{"internet", [] { return errorOfSocket(AF_INET, SOCK_STREAM); }},
+    Attempt{"internet-6", [] { return errorOfSocket(AF_INET6, SOCK_DGRAM); }},
     // The kernel ignores the upper 32 bits of the address family; seccomp compares all 64 bits.
-    Attempt{"internet-64-bit", [] { return errorOfSocket(AF_INET | (1L << 32)); }},
-    Attempt{"unix", [] { return errorOfSocket(AF_UNIX); }},
-    Attempt{"netlink", [] { return errorOfOpen(::socket(AF_NETLINK, SOCK_RAW, 0)); }},
+    Attempt{"internet-64-bit", [] { return errorOfSocket(AF_INET | (1L << 32), SOCK_STREAM); }},
+    Attempt{"netlink", [] { return errorOfSocket(AF_NETLINK, SOCK_RAW); }},
+    Attempt{"packet", [] { return errorOfSocket(AF_PACKET, SOCK_RAW); }},
+    Attempt{"vsock", [] { return errorOfSocket(AF_VSOCK, SOCK_STREAM); }},
+    Attempt{"bluetooth", [] { return errorOfSocket(AF_BLUETOOTH, SOCK_STREAM); }},
+    Attempt{"unix-datagram", [] { return errorOfSocket(AF_UNIX, SOCK_DGRAM); }},
+    Attempt{"bind", [] { return errorOfCall(SYS_bind, noDescriptor, nullptr, 0); }},
+    Attempt{"listen", [] { return errorOf(::listen(noDescriptor, 1)); }},
+    Attempt{"accept", [] { return errorOf(::accept(noDescriptor, nullptr, nullptr)); }},
+    Attempt{"sendto-address",
+            [] {
+                const sockaddr address{};
+                return errorOf(::sendto(noDescriptor, "", 0, 0, &address, sizeof(address)));
+            }},
+
+    // What the program needs
+    Attempt{"unix", [] { return errorOfSocket(AF_UNIX, SOCK_STREAM); }},
     Attempt{"read", [] { return errorOfOpen(::open(paths().file.c_str(), O_RDONLY)); }},
     Attempt{"null", [] { return errorOfOpen(::open("/dev/null", O_WRONLY)); }},
     Attempt{"memory-file", [] { return errorOfOpen(::memfd_create("sandbox-probe", 0)); }},
+    Attempt{"private-shared-memory",
+            [] {
+                const int memory = ::shmget(IPC_PRIVATE, 1, IPC_CREAT | 0600);
+                return memory < 0 ? errno : errorOf(::shmctl(memory, IPC_RMID, nullptr));
+            }},
 };
 
 std::array<int, attempts.size()> errors;

@@ -50,7 +50,7 @@ class Memory(unittest.TestCase):
         with self.assertRaises(PermissionError):
             (process / "mem").open("rb")
         limits = resource.prlimit(program.process.pid, resource.RLIMIT_CORE)
-        self.assertEqual(limits, (0, 0))
+        self.assertEqual(limits, (1, 1))
 
     def background(self, program):
         screenshot = ARTIFACTS / "memory.png"
