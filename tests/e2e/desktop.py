@@ -21,6 +21,9 @@ RATINGS = ("Schwach", "Mittel", "Gut", "Stark")
 KEY_CODES = {"F10": "76"}
 """Key codes that replace names for xdotool. With xkb-data 2.48, the name F10 also presses Alt."""
 
+TERMINATED = "Morvane wurde durch das Signal 15 beendet.\n"
+"""What the program writes to standard error when a test terminates the program."""
+
 PROGRAM = os.environ["MORVANE_PROGRAM"]
 ARTIFACTS = pathlib.Path(os.environ["MORVANE_ARTIFACTS"])
 
@@ -107,6 +110,7 @@ class Program:
         variables=None,
         program=PROGRAM,
         wrapper=(),
+        close_fds=True,
     ):
         self.desktop = desktop
         environment = {**os.environ, **(variables or {})}
@@ -126,6 +130,7 @@ class Program:
             stdout=subprocess.PIPE,
             stderr=subprocess.PIPE,
             text=True,
+            close_fds=close_fds,
         )
 
     def __enter__(self):

@@ -40,8 +40,6 @@ WRITE_FLAGS = re.compile(r"\bO_(WRONLY|RDWR|CREAT|TRUNC|APPEND|TMPFILE)\b")
 DEVICES = re.compile(r"/dev/(null|dri/[^/]+|shm/[^/]+)")
 """Paths that the program may open for writing: devices and POSIX shared memory."""
 
-ALLOWED_FAMILIES = {"AF_UNIX", "AF_NETLINK"}
-
 RESUMED = re.compile(r"<\.\.\. (?P<name>\w+) resumed>(?P<rest>.*)")
 UNFINISHED = re.compile(r"(?P<begin>.*?) ?<unfinished \.\.\.>")
 CALL = re.compile(r"(?P<name>\w+)\((?P<arguments>.*)\) += (?P<result>.+)")
@@ -50,6 +48,9 @@ EVENT = re.compile(r"(\+\+\+|---) .* (\+\+\+|---)")
 FOLDER = r"(?:(?:AT_FDCWD|\d+)<(?P<folder>[^>]*)>, )?"
 PATH = re.compile(FOLDER + r'"(?P<path>(?:[^"\\]|\\.)*)"')
 RESULT_PATH = re.compile(r"\d+<(?P<path>[^>]*)>")
+NEW_PROCESS = re.compile(r"CLONE_CHILD_SETTID\|SIGCHLD\b")
+"""The flags with which the C library's fork calls clone."""
+
 ADDRESS = re.compile(r'sa_family=(?P<family>\w+)(?:, sun_path=(?P<path>@?"(?:[^"\\]|\\.)*"))?')
 
 
@@ -106,13 +107,15 @@ def find_violations(calls, program, peers):
     """The calls that change files, start processes or use sockets other than `peers`.
 
     `peers` are paths of sockets; the paths of abstract sockets begin with @. The first execve of
-    the program itself is allowed.
+    the program itself and the first fork, of the process that asks the desktop portal, are allowed.
     """
-    is_started = False
+    is_started = has_forked = False
     violations = []
     for call in calls:
         if not is_started and call.name == "execve" and call.arguments.startswith(f'"{program}"'):
             is_started = True
+        elif not has_forked and call.name == "clone" and NEW_PROCESS.search(call.arguments):
+            has_forked = True
         elif not is_allowed(call, peers):
             violations.append(call)
     return violations
@@ -128,23 +131,19 @@ def is_allowed(call, peers):
     if name == "mkdir":
         return call.result.startswith("-1 EEXIST")
     if name in ("socket", "socketpair"):
-        return arguments.partition(",")[0] in ALLOWED_FAMILIES
+        return arguments.startswith("AF_UNIX, SOCK_STREAM")
     addresses = list(ADDRESS.finditer(arguments))
     if name == "connect":
         return len(addresses) == 1 and is_peer(addresses[0], peers)
     if name in ("sendto", "sendmsg", "sendmmsg"):
         return all(is_peer(address, peers) for address in addresses)
-    if name == "bind":
-        return [address["family"] for address in addresses] == ["AF_NETLINK"]
     if name in ("clone", "clone3"):
         return "CLONE_THREAD" in arguments
     return False
 
 
 def is_peer(address, peers):
-    if address["family"] == "AF_UNIX":
-        return (address["path"] or "").replace('"', "") in peers
-    return address["family"] == "AF_NETLINK"
+    return address["family"] == "AF_UNIX" and (address["path"] or "").replace('"', "") in peers
 
 
 def opens_read_only(call):

@@ -6,7 +6,7 @@
 import re
 import unittest
 
-from desktop import ARTIFACTS, Desktop, Program, output, wait_for
+from desktop import ARTIFACTS, TERMINATED, Desktop, Program, output, wait_for
 from portal import APPEARANCE, Portal
 
 LIGHT, DARK = "#ECECEC", "#323232"
@@ -66,7 +66,7 @@ class Appearance(unittest.TestCase):
             self.assert_background(program, LIGHT)
             program.process.terminate()
             _, errors = program.wait_for_exit()
-            self.assertEqual(errors, "")
+            self.assertEqual(errors, TERMINATED)
 
     def minimum_size(self, program):
         hints = output("xprop", "-id", program.window(), "WM_NORMAL_HINTS")
