@@ -4,6 +4,7 @@
 """A mock of the desktop portal, from which programs read the user's settings."""
 
 import pathlib
+import signal
 import subprocess
 
 import dbus
@@ -25,8 +26,12 @@ class Portal:
         return self
 
     def __exit__(self, *_):
-        self._process.terminate()
+        self._process.kill()
         self._process.wait()
+
+    def stop(self):
+        """Stops the process, so that the portal does not answer until its end."""
+        self._process.send_signal(signal.SIGSTOP)
 
     def set(self, namespace, key, number):
         """Changes a setting; returns once the mock has emitted the signal."""

@@ -3,14 +3,16 @@
 
 """The program writes no core dump, and other processes of the user cannot read its memory.
 
-For this, the program's process is not dumpable. The desktop portal refuses calls of such a process,
-so the process becomes not dumpable after the portal has answered.
+For this, the program's process is not dumpable before it draws the first secret. The desktop portal
+refuses calls of such a process, so another process asks the portal.
 """
 
+import contextlib
 import os
 import pathlib
 import resource
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -18,6 +20,8 @@ import unittest
 
 from desktop import ARTIFACTS, PROGRAM, Desktop, Program, output, wait_for
 from portal import APPEARANCE, Portal
+
+STOPPING_RANDOM = os.environ["MORVANE_STOPPING_RANDOM"]
 
 DARK = "#323232"
 """The background of the left panel in the dark scheme."""
@@ -43,12 +47,28 @@ class Memory(unittest.TestCase):
         cls.desktop = Desktop()
         cls.addClassCleanup(cls.desktop.close)
 
+    @contextlib.contextmanager
+    def program_before_its_first_secret(self, **options):
+        """The program, which is stopped until the end of the `with` block."""
+        with Program(self.desktop, preload=STOPPING_RANDOM, **options) as program:
+            wait_for(lambda: self.state(program) == "T", "a stopped process")
+            yield program
+            program.process.send_signal(signal.SIGCONT)
+            program.window()
+
+    @staticmethod
+    def state(program):
+        """The letter of the state of the program's process."""
+        text = pathlib.Path(f"/proc/{program.process.pid}/stat").read_text("utf-8")
+        return text.rpartition(")")[2].split()[0]
+
     def assert_not_dumpable(self, program):
         process = pathlib.Path(f"/proc/{program.process.pid}")
-        maps = process / "maps"
-        wait_for(lambda: maps.stat().st_uid != os.geteuid(), "a process that is not dumpable")
-        with self.assertRaises(PermissionError):
-            (process / "mem").open("rb")
+        self.assertNotEqual((process / "maps").stat().st_uid, os.geteuid())
+        for name in ("mem", "environ"):
+            with self.assertRaises(PermissionError):
+                (process / name).open("rb")
+        # With the limit 0, the kernel passes core dumps to a program that handles core dumps.
         limits = resource.prlimit(program.process.pid, resource.RLIMIT_CORE)
         self.assertEqual(limits, (1, 1))
 
@@ -58,19 +78,25 @@ class Memory(unittest.TestCase):
         return output("convert", str(screenshot), "-format", "#%[hex:u.p{12,12}]", "info:")[:7]
 
     def test_is_not_dumpable_without_a_portal(self):
-        with Program(self.desktop) as program:
-            program.window()
+        with self.program_before_its_first_secret() as program:
             self.assert_not_dumpable(program)
 
     def test_is_not_dumpable_without_a_session_bus(self):
         no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
-        with Program(self.desktop, variables=no_bus) as program:
-            program.window()
+        with self.program_before_its_first_secret(variables=no_bus) as program:
             self.assert_not_dumpable(program)
 
-    def test_is_not_dumpable_after_the_portal_has_answered(self):
+    def test_is_not_dumpable_while_the_portal_does_not_answer(self):
+        with Portal() as portal:
+            portal.stop()
+            with self.program_before_its_first_secret() as program:
+                self.assert_not_dumpable(program)
+
+    def test_is_not_dumpable_and_follows_the_portal(self):
         with Portal() as portal:
             portal.set(APPEARANCE, "color-scheme", 1)
+            with self.program_before_its_first_secret() as program:
+                self.assert_not_dumpable(program)
             with Program(self.desktop) as program:
                 wait_for(lambda: self.background(program) == DARK, "the portal's colour scheme")
                 self.assert_not_dumpable(program)
@@ -100,6 +126,7 @@ def run_as_nobody():
         folder = pathlib.Path(name)
         shutil.copytree(pathlib.Path(__file__).parent, folder / "tests")
         shutil.copy(PROGRAM, folder / "program")
+        shutil.copy(STOPPING_RANDOM, folder / "library")
         for path in (folder, *folder.rglob("*")):
             os.chown(path, nobody, nobody)
         return subprocess.run(
@@ -111,6 +138,7 @@ def run_as_nobody():
             env={
                 **os.environ,
                 "MORVANE_PROGRAM": str(folder / "program"),
+                "MORVANE_STOPPING_RANDOM": str(folder / "library"),
                 "MORVANE_ARTIFACTS": str(folder),
             },
             cwd=folder,
