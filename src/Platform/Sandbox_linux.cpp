@@ -20,9 +20,9 @@
 #include <asm/ioctls.h>
 #include <fcntl.h>
 #include <linux/landlock.h>
+#include <sched.h>
 #include <seccomp.h>
 #include <sys/ipc.h>
-#include <sched.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>

@@ -81,9 +81,9 @@ int readerPipe = -1; // NOLINT(*-avoid-non-const-global-variables): set before t
 
 std::unique_ptr<PortalSettings> connectToPortal()
 {
-    return std::make_unique<PortalSettings>(
-        QStringLiteral("org.freedesktop.portal.Desktop"),
-        QStringLiteral("/org/freedesktop/portal/desktop"), QDBusConnection::sessionBus(), nullptr);
+    return std::make_unique<PortalSettings>(QStringLiteral("org.freedesktop.portal.Desktop"),
+                                            QStringLiteral("/org/freedesktop/portal/desktop"),
+                                            QDBusConnection::sessionBus(), nullptr);
 }
 
 /// Asks the portal for the settings; the settings are empty if the portal does not answer.
@@ -133,7 +133,8 @@ public:
         // QtDBus drops a signal if a parameter's type is not registered by name, and Qt 6.4 does
         // not register QDBusVariant.
         qRegisterMetaType<QDBusVariant>();
-        connect(m_portal.get(), &PortalSettings::SettingChanged, this, &PortalAppearance::takeChange);
+        connect(m_portal.get(), &PortalSettings::SettingChanged, this,
+                &PortalAppearance::takeChange);
         if (readerPipe < 0)
             return;
         m_reader.setSocket(readerPipe);
