@@ -251,7 +251,7 @@ constexpr std::array attempts{
             }},
     Attempt{"ptrace", [] { return errorOfCall(SYS_ptrace, PTRACE_CONT, 0, 0, 0); }},
     Attempt{"process_vm_readv", readMemory},
-    Attempt{"kill", [] { return errorOf(::kill(::getppid(), 0)); }},
+    Attempt{"kill", [] { return errorOf(::kill(::getppid(), SIGCONT)); }},
     Attempt{"tgkill", [] { return errorOfCall(SYS_tgkill, ::getppid(), ::getppid(), 0); }},
     Attempt{"rt_sigqueueinfo",
             [] { return errorOfCall(SYS_rt_sigqueueinfo, ::getppid(), 0, nullptr); }},

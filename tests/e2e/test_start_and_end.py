@@ -6,12 +6,13 @@
 import os
 import pathlib
 import resource
+import shutil
 import signal
 import socket
 import subprocess
 import unittest
 
-from desktop import PROGRAM, TERMINATED, Desktop, Program, key, wait_for
+from desktop import DEADLINE, PROGRAM, TERMINATED, Desktop, Program, key, output, wait_for
 
 NO_DISPLAY = "Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.\n"
 NO_RESOURCES = "Morvane braucht mindestens 64 Dateideskriptoren und 1 GiB Adressraum.\n"
@@ -69,6 +70,27 @@ class StartAndEnd(unittest.TestCase):
             self.wait_for_secrets(program)
             server.setblocking(False)
             self.assertRaises(BlockingIOError, server.accept)
+
+    def test_connects_to_a_running_ibus(self):
+        """Qt asks whether the daemon's process exists before it connects."""
+        folder = self.desktop.home / ".config" / "ibus" / "bus"
+        folder.mkdir(parents=True)
+        self.addCleanup(shutil.rmtree, folder.parents[1])
+        daemon = folder / "ibus-daemon"  # Qt searches for the program, but does not start it.
+        daemon.touch(mode=0o755)
+        address = folder / "socket"
+        machine = output("dbus-uuidgen", "--get").strip()
+        display = os.environ["DISPLAY"].removeprefix(":")
+        (folder / f"{machine}-unix-{display}").write_text(
+            f"IBUS_ADDRESS=unix:path={address}\nIBUS_DAEMON_PID={os.getpid()}\n", encoding="ascii"
+        )
+        with socket.socket(socket.AF_UNIX) as server:
+            server.bind(str(address))
+            server.listen()
+            server.settimeout(DEADLINE)
+            path = f"{folder}:{os.environ['PATH']}"
+            self.start(variables={"PATH": path, "QT_IM_MODULE": "ibus", "XDG_CONFIG_HOME": ""})
+            server.accept()[0].close()
 
     def test_writes_no_secret_to_a_log(self):
         folder = self.desktop.home / ".config" / "QtProject"
