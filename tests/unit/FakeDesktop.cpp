@@ -36,7 +36,6 @@ public:
     explicit SettableAppearance(QObject* parent)
         : SystemAppearance(parent)
     {
-        settle();
     }
 
     using SystemAppearance::update;
