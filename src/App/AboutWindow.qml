@@ -26,7 +26,6 @@ Window {
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
-        autoRepeat: false
         enabled: root.activeFocusItem !== null
         sequences: ["Escape", "Ctrl+W"]
 
@@ -34,7 +33,6 @@ Window {
     }
 
     Shortcut {
-        autoRepeat: false
         enabled: root.activeFocusItem !== null
         sequence: "Ctrl+Q"
 

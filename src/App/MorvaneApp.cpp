@@ -4,6 +4,7 @@
 #include "App/MorvaneApp.h"
 
 #include "App/GermanKeyNames.h"
+#include "App/HeldKeys.h"
 #include "Platform/ProcessMemory.h"
 #include "Platform/Sandbox.h"
 #include "Platform/SystemAppearance.h"
@@ -203,6 +204,8 @@ int MorvaneApp::run(int argc, char** argv) const
     disableHintingOnScaledDisplays(application);
     GermanKeyNames keyNames;
     QCoreApplication::installTranslator(&keyNames);
+    HeldKeys heldKeys;
+    QCoreApplication::instance()->installEventFilter(&heldKeys);
 
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -110,7 +110,6 @@ Item {
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
-        autoRepeat: false
         enabled: root.window.activeFocusItem !== null
         sequence: "F10"
 

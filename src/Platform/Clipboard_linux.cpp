@@ -61,6 +61,11 @@ public:
 
     void clear()
     {
+        // After a suspension, the program has not yet read the copies of other programs.
+        const std::int64_t changeCount = m_changeCount;
+        QGuiApplication::sync();
+        if (m_changeCount != changeCount)
+            return;
         if (isX11()) {
             // Some clipboard managers keep the last text and offer this text when the program ends.
             // The placeholder replaces the secret in these managers.

@@ -125,7 +125,6 @@ Rectangle {
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.
     Shortcut {
-        autoRepeat: false
         enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+R"
 
@@ -133,7 +132,6 @@ Rectangle {
     }
 
     Shortcut {
-        autoRepeat: false
         enabled: root.Window.activeFocusItem !== null
         sequence: "Ctrl+Shift+C"
 

@@ -1,18 +1,16 @@
 # SPDX-FileCopyrightText: 2026 Morvane-Projekt
 # SPDX-License-Identifier: MIT
 
-"""The shortcuts of buttons act once while their keys are held.
+"""Shortcuts and buttons act once while their keys are held."""
 
-The test uses Wayland, because Qt 6.4 does not mark all repeated key presses on X11 as repeated.
-"""
-
+import contextlib
 import os
 import time
 import unittest
 from unittest import mock
 
-from desktop import wait_for
-from test_clipboard import Session, WaylandSession
+from desktop import Desktop, wait_for
+from test_clipboard import Session, WaylandSession, X11Session
 from test_endurance import RandomSource
 from wayland import WaylandDesktop
 
@@ -23,6 +21,28 @@ DRAWS_OF_A_STEP = 50
 """More random draws than a password of at most 10 + REPETITIONS characters takes."""
 
 TABS_TO_SLIDER = 2
+
+TABS_FROM_SLIDER_TO_BUTTON = 8
+"""The six switches and the displayed secret precede the button."""
+
+
+class X11(X11Session):
+    def __init__(self, source):
+        Session.__init__(self, Desktop(), source.start_program)
+
+    def press(self, combination):
+        self.run("xdotool", "key", combination)
+
+    @contextlib.contextmanager
+    def held_key(self, combination):
+        *modifiers, last = combination.split("+")
+        for name in (*modifiers, last):
+            self.run("xdotool", "keydown", name)
+        try:
+            yield
+        finally:
+            for name in (last, *reversed(modifiers)):
+                self.run("xdotool", "keyup", name)
 
 
 class Wayland(WaylandSession):
@@ -36,12 +56,14 @@ class Wayland(WaylandSession):
         return self.desktop.held_key(combination)
 
 
-class HeldKeys(unittest.TestCase):
+class HeldKeys:
+    """A mixin for test cases; `session_type` is the type of the session."""
+
     def setUp(self):
         self.enterContext(mock.patch.dict(os.environ))
         self.source = RandomSource()
         self.addCleanup(self.source.close)
-        self.session = Wayland(self.source)
+        self.session = self.session_type(self.source)
         self.addCleanup(self.session.close)
         self.session.start()
         self.session.copy()  # waits until the window reacts to keys
@@ -66,17 +88,25 @@ class HeldKeys(unittest.TestCase):
         self.copy()
         return elapsed
 
-    def test_the_shortcut_for_another_secret(self):
-        elapsed = self.repetition_time()
+    def assert_draws_once(self, tabs, press, elapsed):
+        """Holding the key combination `press` generates as many secrets as pressing it once."""
+        for _ in range(tabs):
+            self.session.press("Tab")
+        self.copy()
         start = self.source.draws
-        self.session.press("ctrl+r")
+        self.session.press(press)
         self.copy()
         draws_of_a_secret = self.source.draws - start
         self.assertGreater(draws_of_a_secret, 0)
-        with self.session.held_key("ctrl+r"):
+        with self.session.held_key(press):
             time.sleep(elapsed)
         self.copy()
         self.assertEqual(self.source.draws - start, 2 * draws_of_a_secret)
+
+    def test_keys_that_generate_another_secret(self):
+        elapsed = self.repetition_time()
+        self.assert_draws_once(0, "ctrl+r", elapsed)
+        self.assert_draws_once(TABS_FROM_SLIDER_TO_BUTTON, "space", elapsed)
 
     def test_the_shortcut_for_copying(self):
         elapsed = self.repetition_time()
@@ -84,6 +114,14 @@ class HeldKeys(unittest.TestCase):
             with self.session.held_key("ctrl+shift+c"):
                 time.sleep(elapsed)
             self.assertEqual(changes(), 1)
+
+
+class HeldKeysOnX11(HeldKeys, unittest.TestCase):
+    session_type = X11
+
+
+class HeldKeysOnWayland(HeldKeys, unittest.TestCase):
+    session_type = Wayland
 
 
 if __name__ == "__main__":
