@@ -3,8 +3,8 @@
 
 #include "Platform/ApplicationObject.h"
 #include "Platform/Clipboard.h"
+#include "Platform/ClipboardSecret.h"
 
-#include <QByteArray>
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
@@ -20,16 +20,6 @@
 namespace Platform::Clipboard {
 
 namespace {
-
-std::unique_ptr<QMimeData> secretContents(const QString& text)
-{
-    auto contents = std::make_unique<QMimeData>();
-    // Clipboard managers do not store contents that offer this type with this value. The type is
-    // the first, because Weston keeps a copy of the first type only.
-    contents->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
-    contents->setText(text);
-    return contents;
-}
 
 /// A zero-width space. Diodon 1.13 does not keep blank texts and would keep the secret instead.
 constexpr QChar placeholderText(0x200B);
@@ -78,7 +68,7 @@ public:
             // Compositors let a program change the clipboard only while the program has the
             // keyboard focus, and some restore their own copy when the offer ends. So the offer
             // remains, without contents, until the program is active again.
-            m_contents->clear();
+            wipeContents();
             setState(State::emptyOffer);
         } else {
             emptyClipboard();
@@ -122,14 +112,23 @@ private:
 
     void offer(const QString& text, State state)
     {
-        auto contents = secretContents(text);
+        wipeContents();
+        auto contents = std::make_unique<ClipboardSecret>(text);
         m_contents = contents.get();
         setState(state);
         m_clipboard->setMimeData(contents.release());
     }
 
+    void wipeContents()
+    {
+        if (m_contents)
+            m_contents->clear();
+    }
+
     void emptyClipboard()
     {
+        // On Wayland, Qt 6.4 does not delete the contents that it replaces.
+        wipeContents();
         setState(State::idle);
         if (isX11()) {
             // Clipboard managers restore their copy if the clipboard has no owner.
@@ -149,15 +148,17 @@ private:
 
     void handleDataChange()
     {
-        if (m_state != State::idle && (!m_contents || m_clipboard->mimeData() != m_contents))
+        if (m_state != State::idle && (!m_contents || m_clipboard->mimeData() != m_contents)) {
+            wipeContents();
             setState(State::idle);
+        }
     }
 
     QClipboard* const m_clipboard = QGuiApplication::clipboard();
     State m_state = State::idle;
     std::int64_t m_changeCount = 0;
     /// The contents that this class wrote last. QClipboard owns them.
-    QPointer<QMimeData> m_contents;
+    QPointer<ClipboardSecret> m_contents;
 };
 
 } // namespace

@@ -9,6 +9,9 @@
 #include "Platform/ContinuousClock.h"
 #include "Services/SecretText.h"
 
+#include <QJSEngine>
+#include <QJSValue>
+#include <QMetaObject>
 #include <QPointer>
 
 #include <algorithm>
@@ -90,7 +93,6 @@ void GeneratorViewModel::setErrorPresented(bool presented)
 
 void GeneratorViewModel::generate()
 {
-    wipeReleased();
     try {
         const QString secret = m_generator.generate(m_settings);
         setGenerated(secret);
@@ -103,7 +105,6 @@ void GeneratorViewModel::generate()
 
 void GeneratorViewModel::useFromHistory(const QString& secret)
 {
-    wipeReleased();
     setGenerated(secret);
 }
 
@@ -159,11 +160,29 @@ void GeneratorViewModel::remember(const QString& secret)
 
 void GeneratorViewModel::release(const QString& secret)
 {
+    if (secret.isEmpty())
+        return;
     const bool isShared = std::ranges::any_of(m_released, [&secret](const QString& other) {
         return other.constData() == secret.constData();
     });
-    if (!secret.isEmpty() && !isShared)
+    if (!isShared)
         m_released.append(secret);
+    scheduleWiping();
+}
+
+void GeneratorViewModel::scheduleWiping()
+{
+    if (std::exchange(m_isWipingScheduled, true))
+        return;
+    const auto wipe = [this] {
+        m_isWipingScheduled = false;
+        // The strings that the engine has read share the characters until they are collected. In
+        // Qt 6.8, QJSEngine::collectGarbage returns before it has collected all garbage.
+        if (const QJSEngine* const engine = qjsEngine(this))
+            engine->globalObject().property(QStringLiteral("gc")).call();
+        wipeReleased();
+    };
+    QMetaObject::invokeMethod(this, wipe, Qt::QueuedConnection);
 }
 
 void GeneratorViewModel::wipeReleased()

@@ -17,8 +17,10 @@
 /// The state of the main window: the settings, the displayed secret and the earlier secrets
 /// of this run of the program.
 ///
-/// Every assignment to a property emits its signal, also if the value stays the same. Used only
-/// on the main thread.
+/// Every assignment to a property emits its signal, also if the value stays the same. A secret that
+/// is neither displayed nor in the history is overwritten when control returns to the event loop;
+/// while a view still uses the secret, it is overwritten after the next change of `generated`. Used
+/// only on the main thread.
 class GeneratorViewModel : public QObject
 {
     Q_OBJECT
@@ -121,6 +123,7 @@ private:
     void setCopied(bool copied);
     void remember(const QString& secret);
     void release(const QString& secret);
+    void scheduleWiping();
     void wipeReleased();
 
     GeneratorSettings m_settings;
@@ -131,6 +134,7 @@ private:
     QStringList m_released;
     std::optional<QString> m_errorMessage;
     bool m_copied = false;
+    bool m_isWipingScheduled = false;
     SecureGenerator m_generator;
     Q_DISABLE_COPY_MOVE(GeneratorViewModel)
 };

@@ -28,9 +28,9 @@ class RandomSource:
         self._file.truncate(mmap.PAGESIZE)
         self._page = mmap.mmap(self._file.fileno(), mmap.PAGESIZE)
 
-    def start_program(self, desktop):
+    def start_program(self, desktop, program_type=Program):
         """Starts the program under test with this random source."""
-        return Program(
+        return program_type(
             desktop,
             preload=os.environ["MORVANE_FAILING_RANDOM"],
             variables={"MORVANE_RANDOM_CONTROL": self._file.name},

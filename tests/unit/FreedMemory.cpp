@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 #include <malloc.h>
@@ -18,9 +19,14 @@ namespace {
 std::array<char16_t, 64> wanted{};
 std::size_t wantedSize = 0;
 int count = 0;
+std::uintptr_t watched = 0;
+bool watchedFreed = false;
 
 bool containsWanted(const void* block, std::size_t size)
 {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): compares addresses only
+    if (const auto start = reinterpret_cast<std::uintptr_t>(block); watched - start < size)
+        watchedFreed = true;
     return wantedSize > 0 && block && ::memmem(block, size, wanted.data(), wantedSize);
 }
 
@@ -76,10 +82,23 @@ FreedMemory::FreedMemory(QStringView text)
 
 FreedMemory::~FreedMemory()
 {
+    watched = 0;
     wantedSize = 0;
 }
 
 int FreedMemory::matches() const
 {
     return count;
+}
+
+void FreedMemory::watch(const void* address)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): compares addresses only
+    watched = reinterpret_cast<std::uintptr_t>(address);
+    watchedFreed = false;
+}
+
+bool FreedMemory::watchedIsFreed() const
+{
+    return watchedFreed;
 }

@@ -17,6 +17,11 @@ public:
     /// The number of freed blocks that contained the text.
     [[nodiscard]] int matches() const;
 
+    /// Watches the block that contains `address`.
+    void watch(const void* address);
+    /// Whether the watched block has been freed.
+    [[nodiscard]] bool watchedIsFreed() const;
+
 private:
     Q_DISABLE_COPY_MOVE(FreedMemory)
 };

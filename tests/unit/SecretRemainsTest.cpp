@@ -5,11 +5,14 @@
 
 #include "FreedMemory.h"
 #include "Model/GeneratorError.h"
+#include "Platform/ClipboardSecret.h"
 #include "ScriptedRandom.h"
 #include "Services/SecretText.h"
 #include "Services/SecureGenerator.h"
 #include "ViewModel/GeneratorViewModel.h"
 
+#include <QCoreApplication>
+#include <QJSEngine>
 #include <QString>
 #include <gtest/gtest.h>
 
@@ -18,6 +21,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -75,6 +79,35 @@ TEST(SecretTextTest, AcceptsAnEmptyText)
     SecretText::wipe(empty);
     EXPECT_TRUE(none.isEmpty());
     EXPECT_TRUE(empty.isEmpty());
+}
+
+class ClipboardSecretTest : public testing::Test
+{
+protected:
+    const QString secret = repeated(u'q', 10);
+    /// The bytes of the secret in UTF-8, two in each code unit.
+    const QString bytes = repeated(u'\x7171', 5);
+};
+
+TEST_F(ClipboardSecretTest, LeavesNothingInFreedMemory)
+{
+    const FreedMemory freed(bytes);
+    auto contents = std::make_unique<Platform::ClipboardSecret>(secret);
+    EXPECT_EQ(contents->data(u"text/plain"_s), "qqqqqqqqqq");
+    contents.reset();
+    EXPECT_EQ(freed.matches(), 0);
+}
+
+TEST_F(ClipboardSecretTest, OffersNothingAfterClearing)
+{
+    const FreedMemory freed(bytes);
+    Platform::ClipboardSecret contents(secret);
+    EXPECT_EQ(contents.text(), secret);
+    contents.clear();
+    EXPECT_TRUE(contents.formats().isEmpty());
+    EXPECT_FALSE(contents.hasText());
+    EXPECT_TRUE(contents.data(u"text/plain"_s).isEmpty());
+    EXPECT_EQ(freed.matches(), 0);
 }
 
 class SecretRemainsTest : public testing::Test
@@ -188,6 +221,13 @@ protected:
         });
         viewModel.generate();
     }
+
+    /// Lets control return to the event loop.
+    static void returnToEventLoop() { QCoreApplication::processEvents(); }
+
+private:
+    int m_argumentCount = 0;
+    const QCoreApplication m_application{m_argumentCount, nullptr};
 };
 
 TEST_F(ReleasedSecretsTest, AreWipedWhenTheHistoryDropsThem)
@@ -195,13 +235,15 @@ TEST_F(ReleasedSecretsTest, AreWipedWhenTheHistoryDropsThem)
     const QString secret = repeated(u'a', 10);
     GeneratorViewModel viewModel;
     viewModel.setSettings(tenLetters());
-    const FreedMemory freed(secret);
+    FreedMemory freed(secret);
     generate(viewModel, 0);
     ASSERT_EQ(viewModel.generated(), secret);
+    freed.watch(viewModel.generated().constData());
     for (std::uint64_t letter = 1; letter <= 6; ++letter)
         generate(viewModel, letter);
     ASSERT_FALSE(viewModel.history().contains(secret));
-    generate(viewModel, 7);
+    returnToEventLoop();
+    EXPECT_TRUE(freed.watchedIsFreed());
     EXPECT_EQ(freed.matches(), 0);
 }
 
@@ -210,15 +252,39 @@ TEST_F(ReleasedSecretsTest, AreWipedOnceNoOtherStringSharesThem)
     const QString secret = repeated(u'a', 10);
     GeneratorViewModel viewModel;
     viewModel.setSettings(tenLetters());
-    const FreedMemory freed(secret);
+    FreedMemory freed(secret);
     generate(viewModel, 0);
     QString copy = viewModel.generated();
+    freed.watch(copy.constData());
     for (std::uint64_t letter = 1; letter <= 8; ++letter)
         generate(viewModel, letter);
+    returnToEventLoop();
     EXPECT_EQ(copy, secret);
     copy = QString();
-    EXPECT_EQ(freed.matches(), 0);
+    EXPECT_FALSE(freed.watchedIsFreed());
     generate(viewModel, 9);
+    returnToEventLoop();
+    EXPECT_TRUE(freed.watchedIsFreed());
+    EXPECT_EQ(freed.matches(), 0);
+}
+
+TEST_F(ReleasedSecretsTest, AreWipedAlthoughAnEngineHasReadThem)
+{
+    const QString secret = repeated(u'a', 10);
+    GeneratorViewModel viewModel;
+    QJSEngine::setObjectOwnership(&viewModel, QJSEngine::CppOwnership);
+    QJSEngine engine;
+    engine.installExtensions(QJSEngine::GarbageCollectionExtension);
+    const QJSValue object = engine.newQObject(&viewModel);
+    viewModel.setSettings(tenLetters());
+    FreedMemory freed(secret);
+    generate(viewModel, 0);
+    freed.watch(viewModel.generated().constData());
+    ASSERT_EQ(object.property(u"generated"_s).toString(), secret);
+    for (std::uint64_t letter = 1; letter <= 6; ++letter)
+        generate(viewModel, letter);
+    returnToEventLoop();
+    EXPECT_TRUE(freed.watchedIsFreed());
     EXPECT_EQ(freed.matches(), 0);
 }
 

@@ -1,0 +1,289 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""Former secrets do not stay in the memory of the program.
+
+The test reads the memory of the program as root. It recognises secrets without knowledge of their
+values: all secrets are passphrases with an unusual separator. The scenarios run in parallel, on X11
+and on Wayland, with a screen reader's interface and without.
+"""
+
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+from desktop import Desktop, Program, wait_for
+from test_clipboard import (
+    ParallelScenarios,
+    Session,
+    WaylandSession,
+    X11Session,
+    wait_until_cleared,
+)
+from test_clipboard_managers import PRINT_NAMES
+from test_endurance import RandomSource
+from wayland import APPLICATION, WaylandDesktop, WaylandProgram
+
+SEPARATOR = "qjx"
+WORDS = 5
+HISTORY_LIMIT = 6
+SHORTEST_PART = 8
+"""The number of characters from which a part of a former secret counts as a remainder."""
+
+SKIPPED = 77
+"""The exit status that ctest reports as a test that was not run."""
+
+READ_WINDOW = (sys.executable, "-B", "-W", "ignore", "-c", PRINT_NAMES)
+
+PASSPHRASE = re.compile(rf"(?:[a-z]+{SEPARATOR}){{{WORDS}}}[0-9]{{1,2}}")
+
+
+def memory_parts(pid):
+    """All texts in the writable memory of a process that contain the separator."""
+    with open(f"/proc/{pid}/maps", encoding="utf-8") as maps:
+        areas = [line.split() for line in maps]
+    with open(f"/proc/{pid}/mem", "rb", buffering=0) as memory:
+        for addresses, rights, *_ in areas:
+            if not rights.startswith("rw"):
+                continue
+            start, end = (int(address, 16) for address in addresses.split("-"))
+            memory.seek(start)
+            try:
+                data = memory.read(end - start)
+            except OSError:  # the area of a device
+                continue
+            for encoding in ("utf-16-le", "latin-1"):
+                yield from parts_of(data, SEPARATOR.encode(encoding), len("x".encode(encoding)))
+
+
+def parts_of(data, needle, width):
+    """The longest texts of letters and digits around each `needle`, without overlaps."""
+    place = data.find(needle)
+    while place >= 0:
+        start = place
+        while is_letter_or_digit(data[start - width : start], width):
+            start -= width
+        end = place
+        while is_letter_or_digit(data[end : end + width], width):
+            end += width
+        text = data[start:end:width].decode("ascii")
+        if len(text) >= SHORTEST_PART:
+            yield text
+        place = data.find(needle, end)
+
+
+def is_letter_or_digit(character, width):
+    return len(character) == width and character[:1].isalnum() and not any(character[1:])
+
+
+class MemoryReader:
+    """Reads the secrets in the memory of the program, whose secrets are all passphrases."""
+
+    def __init__(self, pid):
+        self._pid = pid
+        self._known = []
+        """The secrets in the order of their generation."""
+
+    def wait_for_new_secret(self):
+        """Waits for one secret that was not yet known; returns this secret."""
+        (secret,) = wait_for(self._new_secrets, "another secret in the memory")
+        self._known.append(secret)
+        return secret
+
+    def _new_secrets(self):
+        found = {match[0] for match in map(PASSPHRASE.search, memory_parts(self._pid)) if match}
+        # A remainder of a known secret, without its first characters, looks like another secret.
+        return {text for text in found if not any(text in known for known in self._known)}
+
+    def forget(self):
+        """Makes the secrets in the memory known, in any order."""
+        self._known = list(self._new_secrets()) + self._known[-1:]
+
+    def former_secrets(self):
+        """The remainders of secrets that are not in the history."""
+        history = self._known[-HISTORY_LIMIT:]
+        parts = set(memory_parts(self._pid))
+        missing = [secret for secret in history if secret not in parts]
+        if missing:
+            raise AssertionError(f"not found in the memory: {missing}")
+        return {part for part in parts if not any(part in secret for secret in history)}
+
+
+class MemorySession:
+    """A mixin for sessions: starts the program with a controlled random source."""
+
+    desktop_type, program_type = Desktop, Program
+    with_screen_reader = False
+
+    def __init__(self):
+        self.source = RandomSource()
+        Session.__init__(self, self.desktop_type(), self._start_program)
+        self.reader = MemoryReader(self.program.process.pid)
+
+    def _start_program(self, desktop):
+        self.environment["PYTHONPATH"] = str(pathlib.Path(__file__).parent)
+        if not self.with_screen_reader:
+            del os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]
+        return self.source.start_program(desktop, self.program_type)
+
+    def close(self):
+        try:
+            super().close()
+        finally:
+            self.source.close()
+
+    def read_window(self):
+        """Reads all texts of the window as a screen reader does, if the session has one."""
+        if self.with_screen_reader:
+            wait_for(
+                lambda: PASSPHRASE.search(self.run(*READ_WINDOW)), "a secret in the screen reader"
+            )
+
+
+class X11MemorySession(MemorySession, X11Session):
+    def key(self, *combinations):
+        self.run("xdotool", "key", *combinations)
+
+    def repeat_key(self, combination, times):
+        self.run("xdotool", "key", "--delay", "0", "--repeat", str(times), combination)
+
+    def window_titles(self):
+        pid = str(self.program.process.pid)
+        windows = self.run("xdotool", "search", "--onlyvisible", "--pid", pid).split()
+        return sorted(self.run("xdotool", "getwindowname", window).strip() for window in windows)
+
+    def main_window_has_focus(self):
+        return self.run("xdotool", "getactivewindow").strip() == self.window
+
+
+class WaylandMemorySession(MemorySession, WaylandSession):
+    desktop_type, program_type = WaylandDesktop, WaylandProgram
+
+    def key(self, *combinations):
+        self.desktop.key(*combinations)
+
+    def repeat_key(self, combination, times):
+        self.desktop.key(*[combination] * times)
+
+    def windows(self):
+        nodes, found = [json.loads(self.run("swaymsg", "--raw", "-t", "get_tree"))], []
+        while nodes:
+            node = nodes.pop()
+            nodes += node["nodes"] + node["floating_nodes"]
+            if node.get("app_id") == APPLICATION:
+                found.append(node)
+        return found
+
+    def window_titles(self):
+        return sorted(node["name"] for node in self.windows())
+
+    def main_window_has_focus(self):
+        return any(node["focused"] for node in self.windows())
+
+
+class X11ScreenReaderSession(X11MemorySession):
+    with_screen_reader = True
+
+
+class WaylandScreenReaderSession(WaylandMemorySession):
+    with_screen_reader = True
+
+
+def generate(session, times):
+    for _ in range(times):
+        session.key("ctrl+r")
+        session.reader.wait_for_new_secret()
+
+
+def open_and_close_the_alert(session):
+    draws = session.source.draws
+    session.source.set_failing(True)
+    session.key("ctrl+r")
+    wait_for(lambda: session.source.draws > draws, "a failed generation")
+    session.source.set_failing(False)
+    # The program handles keys in order, and ignores the key of `generate` while the alert is open.
+    session.key("Return")
+    generate(session, 1)
+
+
+def open_and_close_the_about_window(session):
+    session.key("F10", "Down", "Return")
+    wait_for(lambda: "Über Morvane" in session.window_titles(), "the About window")
+    session.key("Escape")
+    wait_for(lambda: len(session.window_titles()) == 1, "no About window")
+    wait_for(session.main_window_has_focus, "the keyboard focus of the main window")
+
+
+def assert_former_secrets_are_gone(session, when):
+    left = session.reader.former_secrets()
+    if len(left) > 1:
+        raise AssertionError(f"{len(left)} former secrets {when}: {sorted(left)}")
+
+
+def former_secrets_do_not_stay(session):
+    session.copy()
+    session.key("Tab", "Right", "Tab", "Tab", "ctrl+a", *SEPARATOR)
+    session.reader.wait_for_new_secret()
+    session.read_window()
+    session.press_copy()
+    copied = wait_for(lambda: PASSPHRASE.fullmatch(session.text()), "a copied passphrase")[0]
+    wait_until_cleared(session)
+    generate(session, 10)
+    session.read_window()
+    generate(session, 10)
+    open_and_close_the_alert(session)
+    open_and_close_the_about_window(session)
+    if copied in session.reader.former_secrets():
+        raise AssertionError("the copied secret is still in the memory")
+    assert_former_secrets_are_gone(session, "after 20 secrets")
+    draws = session.source.draws
+    session.repeat_key("ctrl+r", 700)
+    wait_for(lambda: session.source.draws >= draws + 700 * (WORDS + 1), "700 secrets")
+    session.reader.forget()
+    generate(session, HISTORY_LIMIT)
+    assert_former_secrets_are_gone(session, "after 700 secrets")
+
+
+class FormerSecrets(ParallelScenarios, unittest.TestCase):
+    cases = tuple(
+        (session, former_secrets_do_not_stay)
+        for session in (
+            X11MemorySession,
+            X11ScreenReaderSession,
+            WaylandMemorySession,
+            WaylandScreenReaderSession,
+        )
+    )
+
+
+class Parts(unittest.TestCase):
+    """Tests of the search for parts of secrets."""
+
+    SECRET = "abendqjxankerqjxapfelqjxatlasqjxbambusqjx7"
+
+    def test_both_encodings_are_found(self):
+        for encoding, needle, width in (
+            ("utf-16-le", b"q\0j\0x\0", 2),
+            ("latin-1", b"qjx", 1),
+        ):
+            with self.subTest(encoding):
+                data = b"\1\0" + self.SECRET.encode(encoding) + b"\0\0"
+                self.assertEqual(list(parts_of(data, needle, width)), [self.SECRET])
+
+    def test_a_remainder_is_found(self):
+        data = b"\xf0\x55\0\0" + self.SECRET[20:].encode("utf-16-le")
+        self.assertEqual(list(parts_of(data, b"q\0j\0x\0", 2)), [self.SECRET[20:]])
+
+    def test_the_separator_alone_is_no_remainder(self):
+        self.assertEqual(list(parts_of(b"\0qjx\0aqjxb", b"qjx", 1)), [])
+
+
+if __name__ == "__main__":
+    if os.geteuid() != 0:
+        print("not run: only root can read the memory of the program")
+        sys.exit(SKIPPED)
+    unittest.main(verbosity=2)
