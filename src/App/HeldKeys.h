@@ -43,16 +43,19 @@ private:
     }
 
     /// On X11, Qt 6.4 marks only some repetitions. The X server repeats a key by a release and a
-    /// press at the same time.
+    /// press at the same time, without an event of another key between them.
     bool isRepetition(const QEvent* event)
     {
         const QKeyEvent& key = keyEvent(event);
-        if (event->type() != QEvent::KeyRelease)
-            return key.isAutoRepeat()
-                   || (key.key() == m_releasedKey && key.timestamp() == m_releaseTime);
-        m_releasedKey = key.key();
-        m_releaseTime = key.timestamp();
-        return key.isAutoRepeat();
+        if (event->type() == QEvent::KeyRelease) {
+            m_releasedKey = key.key();
+            m_releaseTime = key.timestamp();
+        } else if (key.key() != m_releasedKey) {
+            m_releasedKey = 0;
+        }
+        return key.isAutoRepeat()
+               || (event->type() != QEvent::KeyRelease && m_releasedKey != 0
+                   && key.timestamp() == m_releaseTime);
     }
 
     int m_releasedKey = 0;
