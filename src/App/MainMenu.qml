@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
+import QtQuick.Templates as T
 import Morvane.Views
 import Morvane.Views.Controls
 
@@ -14,6 +15,10 @@ Menu {
     required property Window window
 
     signal openWindow(string identifier)
+
+    // A press on `parent`, the button that opened the menu, does not close the menu, because the
+    // click would open the menu again.
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     AboutCommand {
         onOpenWindow: identifier => root.openWindow(identifier)

@@ -108,6 +108,31 @@ class About(unittest.TestCase):
                 )
                 self.assertIsNone(self.program.process.poll())
 
+    def test_focus_returns_to_the_control_that_had_it(self):
+        import pyatspi
+
+        def focused():
+            return [
+                a.name
+                for a in showing_objects(self.program.accessible())
+                if a.getState().contains(pyatspi.STATE_FOCUSED)
+            ]
+
+        key("Tab", "Tab")
+        wait_for(lambda: focused() == ["Länge"], "the focus on the slider")
+        for name, opens in (
+            ("Länge", self.open_menu),
+            ("Menü", lambda: self.program.press("Menü")),
+        ):
+            with self.subTest(name):
+                opens()
+                self.program.press(TITLE)
+                windows = wait_for(self.about_windows, "the About window")
+                wait_for(lambda: self.active_window() == windows[0], "the active About window")
+                key("Escape")
+                wait_for(lambda: not self.about_windows(), "no About window")
+                wait_for(lambda: focused() == [name], f"the focus on {name}")
+
     def test_does_not_change_the_secret(self):
         secret, history = self.program.secret(), self.program.history()
         self.open_by_keyboard()

@@ -7,7 +7,15 @@ import re
 import subprocess
 import unittest
 
-from desktop import Desktop, Program, find_first, key, role_name, showing_objects, wait_for
+from desktop import (
+    Desktop,
+    Program,
+    find_first,
+    key,
+    role_name,
+    showing_objects,
+    wait_for,
+)
 
 
 class Controls(unittest.TestCase):
@@ -92,6 +100,53 @@ class Controls(unittest.TestCase):
         self.assert_one_new_secret(lambda: key("ctrl+r"))
         key("ctrl+shift+c")
         self.program.find(lambda a: a.name == "Kopiert", "the confirmation")
+
+    def focused(self):
+        """The names of the objects that have the keyboard focus."""
+        import pyatspi
+
+        return [
+            a.name
+            for a in showing_objects(self.program.accessible())
+            if a.getState().contains(pyatspi.STATE_FOCUSED)
+        ]
+
+    def assert_focus_returns(self, name, popup):
+        """Escape closes the alert or menu with this object, and the control gets the focus."""
+        self.program.find(lambda a: a.name == popup, popup)
+        wait_for(lambda: self.focused() != [name], f"the focus in {popup}")
+        key("Escape")
+        wait_for(lambda: self.focused() == [name], f"the focus on {name}")
+
+    def test_focus_returns_from_the_alert(self):
+        groups = ("Kleinbuchstaben", "Großbuchstaben", "Zahlen")
+        for name in groups:
+            self.assert_one_new_secret(lambda: self.program.click(name))
+        key("Tab", "space")
+        self.assert_focus_returns("Sonderzeichen", "Einstellung prüfen")
+        self.assert_one_new_secret(lambda: key("space"), r"^[^a-zA-Z0-9]{10}$")
+        key("shift+Tab")
+        wait_for(lambda: self.focused() == ["Zahlen"], "the focus on another control")
+        self.program.press("Sonderzeichen")
+        self.assert_focus_returns("Sonderzeichen", "Einstellung prüfen")
+        self.assert_one_new_secret(lambda: key("space"), r"^[^a-zA-Z0-9]{10}$")
+
+    def test_focus_returns_from_the_menu(self):
+        key("Tab", "Tab")
+        wait_for(lambda: self.focused() == ["Länge"], "the focus on the slider")
+        key("F10")
+        self.assert_focus_returns("Länge", "Morvane beenden")
+        self.program.click("Menü")
+        self.assert_focus_returns("Länge", "Morvane beenden")
+        self.program.press("Menü")
+        self.assert_focus_returns("Menü", "Morvane beenden")
+        key("space")
+        self.assert_focus_returns("Menü", "Morvane beenden")
+        # A press outside of the menu closes the menu, and the pressed control gets the focus.
+        key("space")
+        self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
+        self.program.click("Zahlen")
+        wait_for(lambda: self.focused() == ["Zahlen"], "the focus on the pressed control")
 
     def test_the_alert_opens_and_closes(self):
         for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen"):

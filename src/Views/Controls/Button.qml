@@ -21,7 +21,12 @@ T.Button {
     opacity: enabled ? 1 : Theme.disabledOpacity
     verticalPadding: 7
 
-    Accessible.onPressAction: control.clicked()
+    // Like a click, the action of a screen reader takes the keyboard focus.
+    Accessible.onPressAction: {
+        if (control.focusPolicy !== Qt.NoFocus && control.Window.active)
+            control.forceActiveFocus(Qt.OtherFocusReason);
+        control.clicked();
+    }
 
     background: Rectangle {
         border.color: control.highlighted ? "transparent" : Theme.controlBorder

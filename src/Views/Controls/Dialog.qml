@@ -5,6 +5,11 @@ import QtQuick.Templates as T
 
 // A modal dialog in the middle of the window, over a scrim.
 T.Dialog {
+    id: control
+
+    readonly property FocusReturn focusReturn: FocusReturn {
+    }
+
     anchors.centerIn: parent
     closePolicy: T.Popup.CloseOnEscape
     focus: true
@@ -16,6 +21,10 @@ T.Dialog {
     T.Overlay.modal: Rectangle {
         color: Theme.scrim
     }
+
+    onAboutToShow: focusReturn.remember(parent)
+    onClosed: focusReturn.giveBack()
+
     background: Rectangle {
         border.color: Theme.divider
         color: Theme.surface

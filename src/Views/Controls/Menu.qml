@@ -7,9 +7,10 @@ import QtQuick.Templates as T
 T.Menu {
     id: control
 
-    // A press on `parent`, the button that opened the menu, does not close the menu, because the
-    // click would open the menu again.
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    readonly property FocusReturn focusReturn: FocusReturn {
+    }
+
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     implicitHeight: contentHeight + topPadding + bottomPadding
     implicitWidth: Math.max(Theme.scaled(200), contentWidth + leftPadding + rightPadding)
     margins: 4
@@ -32,4 +33,7 @@ T.Menu {
         interactive: false
         model: control.contentModel
     }
+
+    onAboutToShow: focusReturn.remember(parent)
+    onClosed: focusReturn.giveBack()
 }

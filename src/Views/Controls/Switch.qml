@@ -63,7 +63,10 @@ T.Switch {
     }
 
     // Qt's default action for screen readers assigns `checked`, which breaks the property binding.
+    // Like a click, the action takes the keyboard focus.
     function toggleByUser() {
+        if (control.Window.active)
+            control.forceActiveFocus(Qt.OtherFocusReason);
         control.toggle();
         control.toggled();
     }
