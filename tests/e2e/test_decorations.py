@@ -292,6 +292,65 @@ class ClientSideDecorations(unittest.TestCase):
         key("Down", "Down", "Down", "Down", "Down", "Return")
         self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
+    def selected_item(self):
+        """The name of the menu item with the keyboard focus, or None."""
+        import pyatspi
+
+        item = find_first(
+            self.program.accessible(),
+            lambda a: role_name(a) == "menu item"
+            and a.getState().contains(pyatspi.STATE_FOCUSED),
+        )
+        return item and item.name
+
+    def assert_selects(self, keys, item):
+        key(*keys)
+        wait_for(lambda: self.selected_item() == item, f"{item} after {keys}")
+
+    def test_keys_select_menu_items(self):
+        self.open_menu()
+        for keys, item in (
+            (["Up"], "Morvane beenden"),
+            (["Down"], "Über Morvane"),
+            (["End"], "Morvane beenden"),
+            (["Home"], "Über Morvane"),
+            (["f"], "Fenster minimieren"),
+            (["f"], "Fenster schließen"),
+            (["f"], "Fenster minimieren"),
+            (["shift+m"], "Morvane beenden"),
+            (["udiaeresis"], "Über Morvane"),
+            (["x"], "Über Morvane"),
+            # "Kopieren" is disabled, because nothing is selected.
+            (["Down"], "Alles auswählen"),
+            (["Up"], "Über Morvane"),
+        ):
+            with self.subTest(keys):
+                self.assert_selects(keys, item)
+
+    def test_f10_and_escape_close_the_menu(self):
+        for name in ("F10", "Escape"):
+            for keys in ([], ["Down"]):
+                with self.subTest(name, keys=keys):
+                    self.open_menu()
+                    key(*keys, name)
+                    wait_for(self.menu_is_closed, "a closed menu")
+
+    def test_a_resting_pointer_selects_no_menu_item(self):
+        self.open_menu()
+        x, y = self.program.stable_centre("Fenster schließen")
+        key("Escape")
+        wait_for(self.menu_is_closed, "a closed menu")
+        for _ in range(2):
+            move_pointer(x, y)
+            self.open_menu()
+            self.assert_selects(["Down"], "Über Morvane")
+            # The pointer selects an item once the pointer has moved.
+            move_pointer(x + 4, y)
+            move_pointer(x + 5, y)
+            wait_for(lambda: self.selected_item() == "Fenster schließen", "the pointed item")
+            key("Escape")
+            wait_for(self.menu_is_closed, "a closed menu")
+
     def test_the_menu_button_opens_and_closes_the_menu(self):
         self.program.click("Menü")
         self.program.find(lambda a: a.name == "Morvane beenden", "the menu")

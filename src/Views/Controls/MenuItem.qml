@@ -18,6 +18,7 @@ T.MenuItem {
 
     font: Theme.bodyFont
     horizontalPadding: 10
+    hoverEnabled: (menu as Menu)?.isPointerMoved ?? true
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + 32 + keys.implicitWidth + leftPadding + rightPadding
     verticalPadding: 5
