@@ -8,6 +8,7 @@ import subprocess
 import unittest
 
 from desktop import (
+    KEY_CODES,
     Desktop,
     Program,
     find_first,
@@ -147,6 +148,38 @@ class Controls(unittest.TestCase):
         self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
         self.program.click("Zahlen")
         wait_for(lambda: self.focused() == ["Zahlen"], "the focus on the pressed control")
+
+    def menu_items(self):
+        return [
+            a.name
+            for a in showing_objects(self.program.accessible())
+            if role_name(a) == "menu item"
+        ]
+
+    def test_the_separator_has_a_context_menu(self):
+        items = ["Rückgängig", "Ausschneiden", "Kopieren", "Einfügen", "Alles auswählen"]
+        self.assert_one_new_secret(lambda: self.program.click("Passphrase"))
+        self.program.click("Trennzeichen")
+        for name, opens in (
+            ("the right button", lambda: subprocess.run(["xdotool", "click", "3"], check=True)),
+            ("the menu key", lambda: key("Menu")),
+            ("Shift+F10", lambda: key("shift+" + KEY_CODES["F10"])),
+        ):
+            with self.subTest(name):
+                opens()
+                wait_for(lambda: self.menu_items() == items, "the context menu")
+                key("Escape")
+                wait_for(lambda: not self.menu_items(), "a closed menu")
+        self.assert_one_new_secret(lambda: key("ctrl+a", "plus"), r"^([a-z]+\+){5}")
+        key("Menu")
+        self.assert_one_new_secret(lambda: self.program.click("Rückgängig"), r"^([a-z]+-){5}")
+        key("Menu")
+        self.program.click("Alles auswählen")
+        wait_for(lambda: not self.menu_items(), "a closed menu")
+        key("Menu")
+        self.assert_one_new_secret(lambda: self.program.click("Ausschneiden"), r"^[a-z]+[0-9]+$")
+        key("Menu")
+        self.assert_one_new_secret(lambda: self.program.click("Einfügen"), r"^([a-z]+-){5}")
 
     def test_the_alert_opens_and_closes(self):
         for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen"):

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
@@ -35,6 +36,17 @@ T.TextField {
             text: control.placeholderText
             topPadding: control.topPadding
             visible: control.length === 0
+        }
+    }
+
+    Keys.forwardTo: [contextMenu]
+
+    ContextMenuArea {
+        id: contextMenu
+
+        cursorRectangle: control.cursorRectangle
+        menu: EditMenu {
+            field: control
         }
     }
 }
