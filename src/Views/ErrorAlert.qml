@@ -45,8 +45,6 @@ Dialog {
             text: "OK"
             width: root.availableWidth
 
-            Keys.onEnterPressed: root.accept()
-            Keys.onReturnPressed: root.accept()
             onClicked: root.accept()
         }
     }

@@ -36,6 +36,8 @@ Column {
     }
 
     Slider {
+        id: slider
+
         from: root.from
         objectName: "slider"
         to: root.to
@@ -44,12 +46,16 @@ Column {
 
         Accessible.name: root.name
 
-        onEndRequested: end => root.chosen(end)
+        onNumberRequested: number => root.chosen(number)
         // Not `onMoved`, because `moved` is not emitted when a screen reader sets the value. A
         // value that results from clamping `root.value` to the range is not a choice of the user.
         onValueChanged: {
-            if (value !== Math.min(Math.max(root.value, from), to))
-                root.chosen(Math.trunc(value));
+            if (value === Math.min(Math.max(root.value, from), to))
+                return;
+            root.chosen(Math.trunc(value));
+            // A screen reader can set a value between two numbers, also one that chooses the same
+            // number again.
+            slider.value = Qt.binding(() => root.value);
         }
     }
 }

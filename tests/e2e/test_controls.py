@@ -13,6 +13,7 @@ from desktop import (
     Program,
     find_first,
     key,
+    move_pointer,
     role_name,
     showing_objects,
     wait_for,
@@ -79,8 +80,78 @@ class Controls(unittest.TestCase):
     def test_keys_move_the_slider(self):
         self.program.click("Passwort")
         key("Tab")
-        for keys, length in (("Right", 11), ("Left", 10), ("End", 64), ("Home", 8)):
-            self.assert_one_new_secret(lambda: key(keys), rf"^\S{{{length}}}$")
+        for keys, length in (
+            ("Right", 11),
+            ("Left", 10),
+            ("Up", 11),
+            ("Down", 10),
+            ("Page_Up", 16),
+            ("Page_Up", 22),
+            ("Page_Down", 16),
+            ("End", 64),
+            ("Home", 8),
+            ("Page_Up", 14),
+            ("Page_Down", 8),
+        ):
+            with self.subTest(keys):
+                self.assert_one_new_secret(lambda: key(keys), rf"^\S{{{length}}}$")
+
+    def turn_wheel(self, name, button):
+        """Turns the wheel over the control by one step: button 4 is up, button 5 is down."""
+        move_pointer(*self.program.stable_centre(name))
+        subprocess.run(["xdotool", "click", str(button)], check=True)
+
+    def test_the_wheel_moves_only_the_focused_slider(self):
+        before = self.program.history()
+        self.turn_wheel("Länge", 4)
+        self.turn_wheel("Länge", 5)
+        # The program handles the events in order, so it has ignored the wheel when it handles keys.
+        key("Tab", "Tab")
+        wait_for(lambda: self.focused() == ["Länge"], "the focus on the slider")
+        self.assertEqual(self.program.history(), before)
+        self.assert_one_new_secret(lambda: self.turn_wheel("Länge", 4), r"^\S{11}$")
+        self.assert_one_new_secret(lambda: self.turn_wheel("Länge", 5), r"^\S{10}$")
+
+    def slider_value(self, name):
+        slider = self.program.find(lambda a: a.name == name, f"the slider {name}")
+        return slider.queryValue().currentValue
+
+    def test_a_slider_keeps_whole_numbers(self):
+        # The second value chooses the same number, so it generates no secret.
+        self.assert_one_new_secret(
+            lambda: self.program.set_slider("Länge", 33.9), r"^\S{33}$"
+        )
+        for value in (33.9, 33.5):
+            self.program.set_slider("Länge", value)
+            self.assertEqual(self.slider_value("Länge"), 33)
+        self.assert_one_new_secret(
+            lambda: self.program.set_slider("Länge", 34.2), r"^\S{34}$"
+        )
+        self.assertEqual(self.slider_value("Länge"), 34)
+
+    def test_return_presses_the_focused_button(self):
+        self.program.click("Neu erzeugen")
+        wait_for(lambda: self.focused() == ["Neu erzeugen"], "the focus on the button")
+        self.assert_one_new_secret(lambda: key("Return"))
+        self.assert_one_new_secret(lambda: key("KP_Enter"))
+        key("Tab", "Return")
+        self.program.find(lambda a: a.name == "Kopiert", "the confirmation")
+        second = self.program.history()[1]
+        key("Tab", "Tab")
+        wait_for(lambda: self.focused() == [second], "the focus on the second row")
+        key("Return")
+        wait_for(lambda: self.program.secret() == second, "the second secret in the display")
+
+    def test_arrow_keys_switch_the_mode(self):
+        key("Tab")
+        for keys, pattern in (
+            ("Down", r"^[a-z]+-"),
+            ("Up", r"^\S{10}$"),
+            ("Right", r"^[a-z]+-"),
+            ("Left", r"^\S{10}$"),
+        ):
+            with self.subTest(keys):
+                self.assert_one_new_secret(lambda: key(keys), pattern)
 
     def test_tab_reaches_the_controls(self):
         # Tab reaches the segmented control of the mode, then the slider, then the first switch.

@@ -28,6 +28,14 @@ T.Button {
         control.clicked();
     }
 
+    Keys.onPressed: event => {
+        if (event.key !== Qt.Key_Return && event.key !== Qt.Key_Enter)
+            return;
+        event.accepted = true;
+        if (!event.isAutoRepeat)
+            control.clicked();
+    }
+
     background: Rectangle {
         border.color: control.highlighted ? "transparent" : Theme.controlBorder
         border.width: control.flat ? 0 : 1

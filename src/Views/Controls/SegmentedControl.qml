@@ -105,8 +105,10 @@ FocusScope {
                 Accessible.onPressAction: control.chosen(index)
                 Accessible.onToggleAction: control.chosen(index)
 
+                Keys.onDownPressed: control.move(1)
                 Keys.onLeftPressed: control.move(-1)
                 Keys.onRightPressed: control.move(1)
+                Keys.onUpPressed: control.move(-1)
                 onClicked: control.chosen(index)
             }
         }

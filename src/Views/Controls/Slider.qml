@@ -3,7 +3,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A slider for whole numbers. The arrow keys change the value by 1.
+// A slider for whole numbers. The component that binds `value` changes the value when keys or the
+// wheel request a number.
 T.Slider {
     id: control
 
@@ -11,8 +12,10 @@ T.Slider {
     readonly property real maximumValue: to
     readonly property real minimumValue: from
 
-    // Home or End was pressed. The component that binds `value` changes the value to `end`.
-    signal endRequested(real end)
+    // The change of the value by Page Up and Page Down.
+    readonly property real pageStep: Math.max(2, Math.round((to - from) / 10))
+
+    signal numberRequested(real number)
 
     implicitHeight: 20
     implicitWidth: 160
@@ -50,9 +53,48 @@ T.Slider {
     }
 
     Keys.onPressed: event => {
-        if (event.key !== Qt.Key_Home && event.key !== Qt.Key_End)
+        const number = numberForKey(event.key);
+        if (isNaN(number))
             return;
-        control.endRequested(event.key === Qt.Key_Home ? control.from : control.to);
+        request(number);
         event.accepted = true;
+    }
+
+    WheelHandler {
+        // The part of a step by which the wheel has turned, in eighths of a degree.
+        property real turned: 0
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        enabled: control.activeFocus
+
+        onWheel: event => {
+            turned += event.angleDelta.y;
+            const steps = Math.trunc(turned / 120);
+            turned -= steps * 120;
+            control.request(control.value + steps);
+        }
+    }
+
+    // The value that the key requests; NaN for other keys. Qt handles Left and Right.
+    function numberForKey(key: int): real {
+        switch (key) {
+        case Qt.Key_Home:
+            return from;
+        case Qt.Key_End:
+            return to;
+        case Qt.Key_Up:
+            return value + 1;
+        case Qt.Key_Down:
+            return value - 1;
+        case Qt.Key_PageUp:
+            return value + pageStep;
+        case Qt.Key_PageDown:
+            return value - pageStep;
+        }
+        return NaN;
+    }
+
+    function request(number: real) {
+        numberRequested(Math.min(Math.max(number, from), to));
     }
 }
