@@ -45,7 +45,7 @@ Column {
 
             objectName: "separator"
             placeholderText: "Trennzeichen"
-            text: root.model.settings.separator
+            value: root.model.settings.separator
             width: parent.width
 
             Accessible.name: placeholderText
@@ -54,7 +54,7 @@ Column {
                 if (activeFocus)
                     root.fieldFocused(separator);
             }
-            onTextEdited: root.model.settings.separator = text
+            onEdited: text => root.model.settings.separator = text
         }
     }
 

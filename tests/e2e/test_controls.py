@@ -227,6 +227,62 @@ class Controls(unittest.TestCase):
             if role_name(a) == "menu item"
         ]
 
+    def separator(self):
+        """The text in the separator field."""
+        field = self.program.find(
+            lambda a: a.name == "Trennzeichen" and role_name(a) == "text", "the field"
+        )
+        return field.queryText().getText(0, -1)
+
+    def test_the_separator_is_a_single_line(self):
+        self.program.click("Passphrase")
+        self.program.click("Trennzeichen")
+        for text, expected in (("+\n", "+"), ("a\r\nb", "ab"), ("a\tb", "a b"), ("\u2028=", "=")):
+            for name, selection, paste in (
+                ("paste", "clipboard", lambda: key("ctrl+v")),
+                ("middle click", "primary", lambda: self.middle_click("Trennzeichen")),
+            ):
+                with self.subTest(name, text=text):
+                    key("ctrl+a", "Delete")
+                    wait_for(lambda: self.separator() == "", "an empty field")
+                    subprocess.run(
+                        ["xclip", "-selection", selection], input=text, text=True, check=True
+                    )
+                    paste()
+                    wait_for(lambda: self.separator() == expected, "the pasted text")
+                    words = self.program.secret().split(expected)
+                    self.assertGreater(len(words), 5, words)
+
+    def middle_click(self, name):
+        move_pointer(*self.program.stable_centre(name, "text"))
+        subprocess.run(["xdotool", "click", "2"], check=True)
+
+    def test_undo_survives_the_limit_of_the_separator(self):
+        self.program.click("Passphrase")
+        self.program.click("Trennzeichen")
+        for keys, text in (
+            (["ctrl+a", "a"], "a"),
+            (["b"], "ab"),
+            (["c"], "abc"),
+            (["d"], "abc"),
+            # The cursor stays behind the typed character.
+            (["Home", "Right", "x"], "axb"),
+            (["y"], "axy"),
+            (["ctrl+z"], "axb"),
+            (["ctrl+z"], "abc"),
+            (["ctrl+z"], "ab"),
+            (["ctrl+z"], "a"),
+            (["ctrl+z"], "-"),
+            (["ctrl+z"], "-"),
+            (["ctrl+shift+z", "ctrl+shift+z"], "ab"),
+            (["z"], "abz"),
+            (["ctrl+shift+z"], "abz"),
+            (["ctrl+z"], "ab"),
+        ):
+            with self.subTest(keys):
+                key(*keys)
+                wait_for(lambda: self.separator() == text, f"the text {text}")
+
     def test_the_separator_has_a_context_menu(self):
         items = ["Rückgängig", "Ausschneiden", "Kopieren", "Einfügen", "Alles auswählen"]
         self.assert_one_new_secret(lambda: self.program.click("Passphrase"))

@@ -7,26 +7,27 @@ Menu {
     id: root
 
     required property TextInput field
-    // Read when the menu opens, because Qt 6.4 does not report a selection that an undo restores.
-    property bool hasSelection: false
+    required property bool isUndoAvailable
+
+    signal undone
 
     component EditItem: MenuItem {
         isShortcutEnabled: false
     }
 
     EditItem {
-        isAvailable: root.field.canUndo
+        isAvailable: root.isUndoAvailable
         shortcut: "Ctrl+Z"
         title: "Rückgängig"
 
-        onActivated: root.field.undo()
+        onActivated: root.undone()
     }
 
     MenuSeparator {
     }
 
     EditItem {
-        isAvailable: root.hasSelection
+        isAvailable: root.field.selectedText !== ""
         shortcut: "Ctrl+X"
         title: "Ausschneiden"
 
@@ -34,7 +35,7 @@ Menu {
     }
 
     EditItem {
-        isAvailable: root.hasSelection
+        isAvailable: root.field.selectedText !== ""
         shortcut: "Ctrl+C"
         title: "Kopieren"
 
@@ -59,6 +60,4 @@ Menu {
 
         onActivated: root.field.selectAll()
     }
-
-    onAboutToShow: hasSelection = field.selectedText !== ""
 }
