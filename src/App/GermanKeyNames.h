@@ -5,8 +5,9 @@
 
 #include <QTranslator>
 
-/// The German name of Ctrl, the only modifier key in displayed shortcuts. Qt's translations are not
-/// used, because they are a separate package and follow the language of the system.
+/// The German names of Ctrl and Shift, the only modifier keys in displayed shortcuts. Qt's
+/// translations are not used, because they are a separate package and follow the language of the
+/// system.
 class GermanKeyNames final : public QTranslator
 {
 public:
@@ -19,6 +20,8 @@ public:
     {
         if (qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Ctrl") == 0)
             return QStringLiteral("Strg");
+        if (qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Shift") == 0)
+            return QStringLiteral("Umschalt");
         return {};
     }
 };

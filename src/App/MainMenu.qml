@@ -19,9 +19,30 @@ Menu {
     // A press on `parent`, the button that opened the menu, does not close the menu, because the
     // click would open the menu again.
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    title: "Menü"
 
     AboutCommand {
         onOpenWindow: identifier => root.openWindow(identifier)
+    }
+
+    MenuSeparator {
+    }
+
+    // ResultPanel handles the shortcuts of the next two items.
+    MenuItem {
+        isShortcutEnabled: false
+        shortcut: "Ctrl+R"
+        title: "Neu erzeugen"
+
+        onActivated: root.content.model.generate()
+    }
+
+    MenuItem {
+        isShortcutEnabled: false
+        shortcut: "Ctrl+Shift+C"
+        title: "Kopieren"
+
+        onActivated: root.content.model.copyToClipboard()
     }
 
     MenuSeparator {
@@ -31,7 +52,7 @@ Menu {
         isShortcutEnabled: root.areShortcutsEnabled
         shortcut: "Ctrl+C"
         isAvailable: root.content.selectedText !== ""
-        title: "Kopieren"
+        title: "Auswahl kopieren"
 
         onActivated: root.content.copySelection()
     }

@@ -277,7 +277,9 @@ class ClientSideDecorations(unittest.TestCase):
             names,
             [
                 "Über Morvane",
+                "Neu erzeugen",
                 "Kopieren",
+                "Auswahl kopieren",
                 "Alles auswählen",
                 "Fenster minimieren",
                 "Fenster schließen",
@@ -289,7 +291,7 @@ class ClientSideDecorations(unittest.TestCase):
 
     def test_arrow_keys_move_through_the_menu(self):
         self.open_menu()
-        key("Down", "Down", "Down", "Down", "Down", "Return")
+        key(*["Down"] * 7, "Return")
         self.assertEqual(self.program.wait_for_exit(), (0, ""))
 
     def selected_item(self):
@@ -320,9 +322,10 @@ class ClientSideDecorations(unittest.TestCase):
             (["shift+m"], "Morvane beenden"),
             (["udiaeresis"], "Über Morvane"),
             (["x"], "Über Morvane"),
-            # "Kopieren" is disabled, because nothing is selected.
+            (["Down", "Down"], "Kopieren"),
+            # "Auswahl kopieren" is disabled, because nothing is selected.
             (["Down"], "Alles auswählen"),
-            (["Up"], "Über Morvane"),
+            (["Up"], "Kopieren"),
         ):
             with self.subTest(keys):
                 self.assert_selects(keys, item)
@@ -368,8 +371,19 @@ class ClientSideDecorations(unittest.TestCase):
         self.program.click("Alles auswählen")
         wait_for(self.menu_is_closed, "a closed menu")
         self.open_menu()
-        self.program.click("Kopieren", "menu item")
+        self.program.click("Auswahl kopieren")
         wait_for(lambda: clipboard() == secret, "the secret on the clipboard")
+        self.assert_clipboard_holds_secret()
+
+    def test_menu_items_generate_and_copy_the_whole_secret(self):
+        secret = self.program.secret()
+        self.open_menu()
+        self.program.click("Neu erzeugen", "menu item")
+        wait_for(lambda: self.program.secret() not in (secret, None), "another secret")
+        self.open_menu()
+        self.program.click("Kopieren", "menu item")
+        self.program.find(lambda a: a.name == "Kopiert", "the confirmation")
+        wait_for(lambda: clipboard() == self.program.secret(), "the secret on the clipboard")
         self.assert_clipboard_holds_secret()
 
     def test_standard_shortcuts(self):
