@@ -17,6 +17,8 @@ Window {
     height: minimumHeight
     minimumHeight: content.minimumHeight
     minimumWidth: content.minimumWidth
+    // For screen readers. Without a title, Qt also gives the window the name of the program.
+    title: Application.displayName
     width: Math.max(860, minimumWidth)
 
     ContentView {

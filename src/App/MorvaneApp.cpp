@@ -10,9 +10,11 @@
 #include "Platform/SystemAppearance.h"
 #include "Platform/Termination.h"
 #include "Platform/WindowChrome.h"
+#include "Views/Controls/AccessibleItem.h"
 #include "Views/Controls/Appearance.h"
 
 #include <QDebug>
+#include <QAccessible>
 #include <QEventLoop>
 #include <QFont>
 #include <QFontMetricsF>
@@ -206,6 +208,7 @@ int MorvaneApp::run(int argc, char** argv) const
     QCoreApplication::installTranslator(&keyNames);
     HeldKeys heldKeys;
     QCoreApplication::instance()->installEventFilter(&heldKeys);
+    QAccessible::installFactory(AccessibleItem::create);
 
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -257,6 +257,18 @@ class Controls(unittest.TestCase):
         move_pointer(*self.program.stable_centre(name, "text"))
         subprocess.run(["xdotool", "click", "2"], check=True)
 
+    def test_a_screen_reader_edits_the_separator(self):
+        self.program.press("Passphrase")
+        field = self.program.find(
+            lambda a: a.name == "Trennzeichen" and role_name(a) == "text", "the field"
+        )
+        self.assertIn("EditableText", field.get_interfaces())
+        for text, expected in (("=", "="), ("a\nb", "ab"), ("wxyz", "wxy")):
+            with self.subTest(text):
+                field.queryEditableText().setTextContents(text)
+                wait_for(lambda: self.separator() == expected, "the new text")
+                self.assertGreater(len(self.program.secret().split(expected)), 5)
+
     def test_undo_survives_the_limit_of_the_separator(self):
         self.program.click("Passphrase")
         self.program.click("Trennzeichen")
@@ -379,6 +391,33 @@ class Controls(unittest.TestCase):
             lambda: has_announced(r"\S{15}", "Stark", "· ca. 93 Bit"),
             "events with the new secret, its rating and its bits",
         )
+
+    def test_screen_readers_know_disabled_items_and_modal_alerts(self):
+        import pyatspi
+
+        def has_state(accessible, state):
+            return accessible.getState().contains(state)
+
+        frame = self.program.find(lambda a: role_name(a) == "frame", "the window")
+        self.assertEqual(frame.name, "Morvane")
+        key("F10")
+        copy = self.program.find(
+            lambda a: a.name == "Auswahl kopieren" and role_name(a) == "menu item", "the item"
+        )
+        menu = self.program.find(lambda a: role_name(a) == "popup menu", "the menu")
+        self.assertEqual(menu.name, "Menü")
+        self.assertFalse(has_state(menu, pyatspi.STATE_MODAL))
+        self.assertFalse(has_state(copy, pyatspi.STATE_ENABLED))
+        self.assertFalse(has_state(copy, pyatspi.STATE_SENSITIVE))
+        self.program.press("Alles auswählen")
+        key("F10")
+        wait_for(lambda: has_state(copy, pyatspi.STATE_ENABLED), "an enabled item")
+        key("Escape")
+        for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen", "Sonderzeichen"):
+            self.program.press(name)
+        alert = self.program.find(lambda a: role_name(a) == "dialog", "the alert")
+        self.assertEqual(alert.name, "Einstellung prüfen")
+        self.assertTrue(has_state(alert, pyatspi.STATE_MODAL))
 
     def test_every_control_has_a_role_and_a_german_name(self):
         def roles_and_names():
