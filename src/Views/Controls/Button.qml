@@ -13,6 +13,11 @@ T.Button {
     property real radius: Theme.controlRadius
     // The widest of the texts that the button shows in turn. The button's width fits this text.
     property string reservedText: text
+    // Displayed while the pointer or the keyboard focus stays on the button; empty for no tool tip.
+    property string toolTip: ""
+    // Built when it is displayed for the first time.
+    property T.ToolTip builtToolTip: null
+    readonly property bool isToolTipWanted: toolTip !== "" && (hovered || visualFocus)
 
     font: Theme.bodyFont
     horizontalPadding: 16
@@ -28,12 +33,24 @@ T.Button {
         control.clicked();
     }
 
+    onIsToolTipWantedChanged: showToolTip(isToolTipWanted)
+    onPressed: showToolTip(false)
+
     Keys.onPressed: event => {
         if (event.key !== Qt.Key_Return && event.key !== Qt.Key_Enter)
             return;
         event.accepted = true;
         if (!event.isAutoRepeat)
             control.clicked();
+    }
+
+    function showToolTip(shown: bool) {
+        if (shown && !builtToolTip)
+            builtToolTip = Qt.createComponent(Qt.resolvedUrl("ToolTip.qml")).createObject(control) as T.ToolTip;
+        if (builtToolTip) {
+            builtToolTip.text = control.toolTip;
+            builtToolTip.visible = shown;
+        }
     }
 
     background: Rectangle {
