@@ -20,6 +20,8 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
+        // An alert is modal, but does not keep the user from moving or closing the window.
+        isMenuEnabled: !root.content.model.errorPresented
         window: root.window
 
         onMenuToggled: button => root.toggleMenu(button)

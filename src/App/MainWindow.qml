@@ -34,6 +34,9 @@ Window {
         content: content
         visible: root.clientSideDecorations
         window: root
+        // While an alert is open, the decorations are above Qt's overlay for popups, whose z is
+        // 1,000,001, because a modal popup blocks what is below the overlay.
+        z: content.model.errorPresented ? 1000002 : 0
 
         onOpenWindow: identifier => root.openWindow(identifier)
     }

@@ -8,6 +8,7 @@ import Morvane.Views.Controls
 Item {
     id: root
 
+    required property bool isMenuEnabled
     readonly property bool isMaximized: window.visibility === Window.Maximized || window.visibility === Window.FullScreen
     required property Window window
 
@@ -24,6 +25,7 @@ Item {
         flat: true
         implicitHeight: 28
         implicitWidth: 32
+        toolTip: text
 
         contentItem: Item {
             Icon {
@@ -69,6 +71,7 @@ Item {
         TitleBarButton {
             id: menuButton
 
+            enabled: root.isMenuEnabled
             focusPolicy: Qt.TabFocus
             icon.name: "menu"
             objectName: "menuButton"

@@ -12,6 +12,7 @@ import subprocess
 import unittest
 
 from desktop import (
+    ARTIFACTS,
     Desktop,
     Program,
     find_first,
@@ -236,6 +237,31 @@ class ClientSideDecorations(unittest.TestCase):
         self.assertEqual(self.geometry()[0] - left, self.geometry()[1] - top)
         self.assertEqual(self.geometry()[2:], (width, height))
 
+    def open_alert(self):
+        for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen", "Sonderzeichen"):
+            self.program.press(name)
+        self.program.find(lambda a: a.name == "Einstellung prüfen", "the alert")
+
+    def test_the_alert_leaves_title_bar_and_edges_alive(self):
+        self.open_alert()
+        left, top, width, height = self.geometry()
+        start = (left + width - 1, top + height // 2)
+        self.resize(start, (start[0] + 40, start[1]), (left, top, width + 40, height))
+        self.assert_moves_when_dragged_at(500)
+        self.program.click("Menü")
+        self.program.click("Maximieren")
+        wait_for(lambda: "MAXIMIZED_VERT" in self.state(), "a maximised window")
+        self.program.click("Minimieren")
+        wait_for(lambda: "Iconic" in self.state(), "a minimised window")
+        subprocess.run(["wmctrl", "-i", "-a", self.window], check=True)
+        wait_for(lambda: "Normal" in self.state(), "the restored window")
+        # The click on the menu's button had no effect, and the alert is still open.
+        self.assertTrue(self.menu_is_closed())
+        self.program.find(lambda a: a.name == "Einstellung prüfen", "the alert")
+        self.program.save_screenshot(ARTIFACTS / "alert-with-title-bar.png")
+        self.program.click("Schließen")
+        self.assertEqual(self.program.wait_for_exit(), (0, ""))
+
     def test_a_double_click_on_the_title_bar_maximises_and_restores(self):
         before = self.geometry()
         for expected in (True, False):
@@ -353,6 +379,34 @@ class ClientSideDecorations(unittest.TestCase):
             wait_for(lambda: self.selected_item() == "Fenster schließen", "the pointed item")
             key("Escape")
             wait_for(self.menu_is_closed, "a closed menu")
+
+    def test_a_press_on_the_title_bar_closes_the_menu(self):
+        self.open_menu()
+        left, top = self.geometry()[:2]
+        move_pointer(left + 450, top + 15)
+        subprocess.run(["xdotool", "click", "1"], check=True)
+        wait_for(self.menu_is_closed, "a closed menu")
+
+    def assert_tool_tip(self, text):
+        self.program.find(
+            lambda a: role_name(a) == "tool tip" and a.name == text, f"the tool tip {text}"
+        )
+
+    def test_buttons_with_only_a_symbol_have_tool_tips(self):
+        for name in ("Menü", "Minimieren", "Maximieren", "Schließen"):
+            with self.subTest(name):
+                move_pointer(*self.program.stable_centre(name))
+                self.assert_tool_tip(name)
+        self.move_pointer_to_background()
+        wait_for(
+            lambda: find_first(self.program.accessible(), lambda a: role_name(a) == "tool tip")
+            is None,
+            "no tool tip",
+        )
+        # Tab reaches the last control before the first one backwards.
+        key("Tab", "shift+Tab")
+        self.assert_tool_tip("Menü")
+        self.program.save_screenshot(ARTIFACTS / "tool-tip.png")
 
     def test_the_menu_button_opens_and_closes_the_menu(self):
         self.program.click("Menü")
