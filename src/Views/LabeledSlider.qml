@@ -27,11 +27,11 @@ Column {
             text: root.name
         }
 
-        PlainText {
+        TabularNumber {
             anchors.right: parent.right
             color: Theme.secondaryText
+            number: root.value
             objectName: "number"
-            text: root.value
         }
     }
 

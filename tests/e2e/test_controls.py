@@ -174,13 +174,13 @@ class Controls(unittest.TestCase):
         self.program.find(lambda a: a.name == "Kopiert", "the confirmation")
 
     def focused(self):
-        """The names of the objects that have the keyboard focus."""
+        """The names of the controls that have the keyboard focus."""
         import pyatspi
 
         return [
             a.name
             for a in showing_objects(self.program.accessible())
-            if a.getState().contains(pyatspi.STATE_FOCUSED)
+            if a.getState().contains(pyatspi.STATE_FOCUSED) and role_name(a) != "popup menu"
         ]
 
     def assert_focus_returns(self, name, popup):

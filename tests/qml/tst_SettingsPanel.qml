@@ -179,6 +179,27 @@ TestCase {
         compare(number("wordCount"), "7");
     }
 
+    function test_allDigitsOfTheNumberHaveTheSameWidth() {
+        const digits = () => Array.from(findChild(control("length"), "number").children).filter(item => item instanceof Text);
+        content.model.settings.length = 11;
+        const ones = digits();
+        compare(ones.map(digit => digit.text), ["1", "1"]);
+        metrics.font = ones[0].font;
+        const widths = Array.from("0123456789", digit => metrics.advanceWidth(digit));
+        for (const digit of ones)
+            compare(digit.width, Math.max(...widths));
+        const width = findChild(control("length"), "number").width;
+        content.model.settings.length = 22;
+        compare(digits().map(digit => digit.text), ["2", "2"]);
+        compare(findChild(control("length"), "number").width, width);
+        content.model.settings.length = 9;
+        compare(digits().map(digit => digit.text), ["9"]);
+    }
+
+    FontMetrics {
+        id: metrics
+    }
+
     function test_sliders_data() {
         return [{
                 "tag": "length",
