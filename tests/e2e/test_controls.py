@@ -203,6 +203,13 @@ class Controls(unittest.TestCase):
         self.assert_focus_returns("Sonderzeichen", "Einstellung prüfen")
         self.assert_one_new_secret(lambda: key("space"), r"^[^a-zA-Z0-9]{10}$")
 
+    def test_a_screen_reader_that_switches_the_mode_keeps_the_focus(self):
+        key("Tab", "Tab")
+        wait_for(lambda: self.focused() == ["Länge"], "the focus on the slider")
+        # The program destroys the slider with the settings of the password mode.
+        self.assert_one_new_secret(lambda: self.program.press("Passphrase"), r"^[a-z]+-")
+        wait_for(lambda: "Passphrase" in self.focused(), "the focus on the segment")
+
     def test_focus_returns_from_the_menu(self):
         key("Tab", "Tab")
         wait_for(lambda: self.focused() == ["Länge"], "the focus on the slider")

@@ -102,8 +102,9 @@ FocusScope {
 
                 Accessible.checkable: true
                 Accessible.checked: checked
-                Accessible.onPressAction: control.chosen(index)
-                Accessible.onToggleAction: control.chosen(index)
+                // Like a click, the actions of a screen reader take the keyboard focus.
+                Accessible.onPressAction: control.choose(index, Qt.OtherFocusReason)
+                Accessible.onToggleAction: control.choose(index, Qt.OtherFocusReason)
 
                 Keys.onDownPressed: control.move(1)
                 Keys.onLeftPressed: control.move(-1)
@@ -118,7 +119,12 @@ FocusScope {
         const index = control.currentIndex + step;
         if (index < 0 || index >= control.choices.length)
             return;
+        control.choose(index, Qt.TabFocusReason);
+    }
+
+    function choose(index: int, reason: int) {
         control.chosen(index);
-        segments.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
+        if (control.Window.active)
+            segments.itemAt(index).forceActiveFocus(reason);
     }
 }
