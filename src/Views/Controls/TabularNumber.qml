@@ -12,7 +12,6 @@ Row {
     property font font: Theme.bodyFont
     required property int number
 
-    readonly property real digitWidth: Math.max(...Array.from("0123456789", digit => metrics.advanceWidth(digit)))
     readonly property string text: String(number)
 
     readonly property font tabularFont: Qt.font({
@@ -25,10 +24,12 @@ Row {
             "weight": font.weight
         })
 
-    FontMetrics {
-        id: metrics
+    PlainText {
+        id: widest
 
         font: root.tabularFont
+        text: Array.from("0123456789").join("\n")
+        visible: false
     }
 
     Repeater {
@@ -41,7 +42,7 @@ Row {
             font: root.tabularFont
             horizontalAlignment: Text.AlignHCenter
             text: root.text.charAt(index)
-            width: root.digitWidth
+            width: widest.implicitWidth
         }
     }
 }
