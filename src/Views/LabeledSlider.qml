@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
 import QtQuick
 import Morvane.Views.Controls
 
@@ -27,11 +28,46 @@ Column {
             text: root.name
         }
 
-        TabularNumber {
+        // Tabular figures: each digit has the width of the widest digit. Since Qt 6.6, the font's own
+        // tabular figures are used.
+        Row {
+            id: number
+
+            readonly property font font: Qt.font({
+                    "family": Theme.bodyFont.family,
+                    "features": {
+                        "tnum": 1
+                    },
+                    "hintingPreference": Theme.bodyFont.hintingPreference,
+                    "pixelSize": Theme.bodyFont.pixelSize,
+                    "weight": Theme.bodyFont.weight
+                })
+            readonly property string text: String(root.value)
+
             anchors.right: parent.right
-            color: Theme.secondaryText
-            number: root.value
             objectName: "number"
+
+            PlainText {
+                id: widestDigit
+
+                font: number.font
+                text: Array.from("0123456789").join("\n")
+                visible: false
+            }
+
+            Repeater {
+                model: number.text.length
+
+                PlainText {
+                    required property int index
+
+                    color: Theme.secondaryText
+                    font: number.font
+                    horizontalAlignment: Text.AlignHCenter
+                    text: number.text.charAt(index)
+                    width: widestDigit.implicitWidth
+                }
+            }
         }
     }
 

@@ -6,28 +6,26 @@ import QtQuick
 Menu {
     id: root
 
-    required property TextInput field
-    required property bool isUndoAvailable
-
-    signal undone
+    // The parent of the menu's ContextMenuArea.
+    readonly property TextField field: parent?.parent as TextField
 
     component EditItem: MenuItem {
         isShortcutEnabled: false
     }
 
     EditItem {
-        isAvailable: root.isUndoAvailable
+        isAvailable: root.field?.isUndoAvailable ?? false
         shortcut: "Ctrl+Z"
         title: "Rückgängig"
 
-        onActivated: root.undone()
+        onActivated: root.field.undoEdit()
     }
 
     MenuSeparator {
     }
 
     EditItem {
-        isAvailable: root.field.selectedText !== ""
+        isAvailable: (root.field?.selectedText ?? "") !== ""
         shortcut: "Ctrl+X"
         title: "Ausschneiden"
 
@@ -35,7 +33,7 @@ Menu {
     }
 
     EditItem {
-        isAvailable: root.field.selectedText !== ""
+        isAvailable: (root.field?.selectedText ?? "") !== ""
         shortcut: "Ctrl+C"
         title: "Kopieren"
 
@@ -43,7 +41,7 @@ Menu {
     }
 
     EditItem {
-        isAvailable: root.field.canPaste
+        isAvailable: root.field?.canPaste ?? false
         shortcut: "Ctrl+V"
         title: "Einfügen"
 
@@ -54,7 +52,7 @@ Menu {
     }
 
     EditItem {
-        isAvailable: root.field.length > 0
+        isAvailable: root.field?.length > 0
         shortcut: "Ctrl+A"
         title: "Alles auswählen"
 

@@ -57,7 +57,10 @@ T.TextField {
         if (!isUndo && !event.matches(StandardKey.Redo))
             return;
         event.accepted = true;
-        stepTo(historyIndex + (isUndo ? -1 : 1));
+        if (isUndo)
+            undoEdit();
+        else
+            showEntry(historyIndex + 1);
     }
     onTextChanged: {
         if (text !== value)
@@ -69,12 +72,8 @@ T.TextField {
         id: contextMenu
 
         cursorRectangle: control.cursorRectangle
-        menu: EditMenu {
-            field: control
-            isUndoAvailable: control.isUndoAvailable
-
-            onUndone: control.stepTo(control.historyIndex - 1)
-        }
+        // By address, because a type that is named here is loaded before the first frame.
+        menu: Qt.createComponent(Qt.resolvedUrl("EditMenu.qml"))
     }
 
     // `text` as a single line: tabs become blanks, and other control characters and line breaks are
@@ -105,8 +104,12 @@ T.TextField {
         };
     }
 
+    function undoEdit() {
+        showEntry(historyIndex - 1);
+    }
+
     // Shows the value at this index of the history, if there is one.
-    function stepTo(index: int) {
+    function showEntry(index: int) {
         if (index < 0 || index >= history.length)
             return;
         historyIndex = index;
