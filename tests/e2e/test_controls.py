@@ -314,6 +314,9 @@ class Controls(unittest.TestCase):
             with self.subTest(name):
                 opens()
                 wait_for(lambda: self.menu_items() == items, "the context menu")
+                self.program.find(
+                    lambda a: a.name == "Bearbeiten" and role_name(a) == "popup menu", "its name"
+                )
                 key("Escape")
                 wait_for(lambda: not self.menu_items(), "a closed menu")
         self.assert_one_new_secret(lambda: key("ctrl+a", "plus"), r"^([a-z]+\+){5}")

@@ -30,6 +30,7 @@ QAccessibleInterface* AccessibleItem::create(const QString& className, QObject* 
         return nullptr;
     }
     // Qt asks this function for every base class; the nested request reaches Qt Quick's factory.
+    // Qt's cache then holds both descriptions of the object and uses the later one.
     const QScopedValueRollback creating(isCreating, true);
     QAccessibleInterface* const base = QAccessible::queryAccessibleInterface(object);
     return base ? new AccessibleItem(base) : nullptr;

@@ -9,6 +9,8 @@ Menu {
     // The parent of the menu's ContextMenuArea.
     readonly property TextField field: parent?.parent as TextField
 
+    title: "Bearbeiten"
+
     component EditItem: MenuItem {
         isShortcutEnabled: false
     }
