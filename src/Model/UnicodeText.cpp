@@ -6,6 +6,7 @@
 #include <unicode/ubrk.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace UnicodeText {
 namespace {
@@ -23,20 +24,28 @@ icu::LocalUBreakIteratorPointer graphemeClusters(QStringView text)
 
 } // namespace
 
-qsizetype graphemeCount(QStringView text)
+std::vector<qsizetype> graphemeStarts(QStringView text)
 {
-    // ICU leaves copies of the text in freed memory. A secret of ASCII characters is counted
+    // ICU leaves copies of the text in freed memory. A secret of ASCII characters is divided
     // without ICU: each character is a grapheme cluster, except for a line feed after a carriage
     // return.
     if (std::ranges::all_of(text,
-                            [](QChar c) { return c.unicode() < 0x80 && c != QLatin1Char('\r'); }))
-        return text.size();
+                            [](QChar c) { return c.unicode() < 0x80 && c != QLatin1Char('\r'); })) {
+        std::vector<qsizetype> starts(static_cast<std::size_t>(text.size()));
+        std::iota(starts.begin(), starts.end(), 0);
+        return starts;
+    }
 
     const auto iterator = graphemeClusters(text);
-    qsizetype count = 0;
-    while (ubrk_next(iterator.getAlias()) != UBRK_DONE)
-        ++count;
-    return count;
+    std::vector<qsizetype> starts;
+    for (std::int32_t start = 0; start < text.size(); start = ubrk_next(iterator.getAlias()))
+        starts.push_back(start);
+    return starts;
+}
+
+qsizetype graphemeCount(QStringView text)
+{
+    return std::ssize(graphemeStarts(text));
 }
 
 QString firstGraphemes(const QString& text, qsizetype count)

@@ -6,9 +6,14 @@
 #include <QString>
 #include <QStringView>
 
+#include <vector>
+
 /// Grapheme clusters (Unicode Standard Annex 29), found with ICU, and canonical equivalence.
 /// QTextBoundaryFinder of Qt 6.4 fails 39 of the 602 cases of GraphemeBreakTest.txt.
 namespace UnicodeText {
+
+/// The positions in `text` at which the extended grapheme clusters begin.
+[[nodiscard]] std::vector<qsizetype> graphemeStarts(QStringView text);
 
 /// The number of extended grapheme clusters, which users perceive as characters.
 [[nodiscard]] qsizetype graphemeCount(QStringView text);
