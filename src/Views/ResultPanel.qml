@@ -20,10 +20,19 @@ Rectangle {
 
     color: Theme.surface
 
+    // Centred, except that a growing history does not move the buttons away from the pointer.
+    Binding {
+        property: "y"
+        restoreMode: Binding.RestoreNone
+        target: column
+        value: Math.round((root.height - column.height) / 2)
+        when: !buttonsHover.hovered || column.y + column.height > root.height
+    }
+
     Column {
         id: column
 
-        anchors.centerIn: parent
+        anchors.horizontalCenter: parent.horizontalCenter
         objectName: "resultColumn"
         spacing: 22
         width: parent.width - 2 * root.padding
@@ -42,6 +51,7 @@ Rectangle {
 
             anchors.horizontalCenter: parent.horizontalCenter
             isLong: root.model.isLong
+            settings: root.model.settings
             text: root.model.generated
             width: parent.width - 2 * root.valuePadding
 
@@ -82,6 +92,10 @@ Rectangle {
 
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
+
+            HoverHandler {
+                id: buttonsHover
+            }
 
             Button {
                 icon.name: "arrow.clockwise"

@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Morvane.ViewModel
 import Morvane.Views
 import Morvane.Views.Controls
 
-// The displayed secret on at most three lines, as selectable text. A secret that does not fit is
-// drawn smaller, down to 0.65 of its full size, and is elided if it does not fit at that size.
+// The displayed secret on at most three balanced lines, as selectable text. A secret that does not
+// fit is drawn smaller, down to 0.65 of its full size, and is elided if it does not fit at that size.
 FocusScope {
     id: root
 
     required property bool isLong
+    // The settings determine how many lines the next secrets can need, and so the height.
+    required property generatorSettings settings
     required property string text
 
     readonly property alias editor: editor
@@ -21,7 +24,8 @@ FocusScope {
     readonly property alias selectedText: editor.selectedText
     readonly property alias size: editor.font.pixelSize
     readonly property int smallestSize: Math.ceil(0.65 * fullFont.pixelSize)
-    readonly property bool truncated: fitting.lineCount > 3
+    readonly property bool truncated: fittingSize === 0
+    readonly property int fittingSize: layout.fittingSize(text, fullFont, smallestSize, width)
 
     function copy(): void {
         selection.copy();
@@ -32,13 +36,7 @@ FocusScope {
     }
 
     activeFocusOnTab: true
-    implicitHeight: Math.min(editor.contentHeight, 3 * Math.ceil(metrics.lineSpacing))
-
-    FontMetrics {
-        id: metrics
-
-        font: editor.font
-    }
+    implicitHeight: Math.max(Math.ceil(layout.neededHeight(settings, Theme.valueFont, Theme.longValueFont, width)), truncated ? elided.height : editor.height)
 
     FontMetrics {
         id: shortMetrics
@@ -46,43 +44,28 @@ FocusScope {
         font: Theme.valueFont
     }
 
-    // Finds the size at which the secret fits, because a TextEdit has no `fontSizeMode`. The fixed
-    // line height limits the text to three lines at every size.
-    PlainText {
-        id: fitting
-
-        font: root.fullFont
-        fontSizeMode: Text.Fit
-        height: 3 * lineHeight
-        lineHeight: 2 * root.fullFont.pixelSize
-        lineHeightMode: Text.FixedHeight
-        minimumPixelSize: root.smallestSize
-        text: root.text
-        visible: false
-        width: root.width
-        wrapMode: Text.Wrap
-    }
-
     TextEdit {
         id: editor
 
-        anchors.fill: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
         clip: root.truncated
         // A Label shows the elided text, and the editor behind the Label shows only the selection.
         color: root.truncated ? "transparent" : Theme.text
         focus: true
-        font: Theme.fontOfSize(root.fullFont.family, fitting.fontInfo.pixelSize, root.fullFont.weight)
-        horizontalAlignment: TextEdit.AlignHCenter
+        font: Theme.fontOfSize(root.fullFont.family, root.fittingSize || root.smallestSize, root.fullFont.weight)
+        height: root.truncated ? elided.height : contentHeight
         objectName: "value"
         persistentSelection: true
         readOnly: true
         selectByKeyboard: true
-        selectByMouse: true
+        // Qt would put text that the pointer selects into the primary selection of X11 and Wayland.
+        selectByMouse: false
         selectedTextColor: color
         selectionColor: Theme.selection
         text: root.text
         textFormat: TextEdit.PlainText
-        wrapMode: TextEdit.Wrap
 
         // The text is read-only, and a blinking cursor would wake the processor twice a second.
         cursorDelegate: Item {
@@ -93,14 +76,55 @@ FocusScope {
         Accessible.role: Accessible.StaticText
     }
 
+    SecretLayout {
+        id: layout
+
+        document: editor.textDocument
+    }
+
     SecretSelection {
         id: selection
 
         editor: editor
     }
 
+    MouseArea {
+        property double doubleClickedAt: 0
+        // Whether moving the pointer extends the selection by single characters.
+        property bool isExtending: false
+
+        anchors.fill: editor
+        cursorShape: Qt.IBeamCursor
+
+        onDoubleClicked: {
+            doubleClickedAt = Date.now();
+            isExtending = false;
+            editor.selectWord();
+        }
+        onPositionChanged: mouse => {
+            if (isExtending)
+                editor.moveCursorSelection(editor.positionAt(mouse.x, mouse.y));
+        }
+        onPressed: mouse => {
+            const isTripleClick = Date.now() - doubleClickedAt < Application.styleHints.mouseDoubleClickInterval;
+            const position = editor.positionAt(mouse.x, mouse.y);
+            editor.forceActiveFocus(Qt.MouseFocusReason);
+            isExtending = !isTripleClick;
+            if (isTripleClick)
+                editor.selectAll();
+            else if (mouse.modifiers & Qt.ShiftModifier)
+                editor.moveCursorSelection(position);
+            else
+                editor.cursorPosition = position;
+        }
+    }
+
     PlainText {
-        anchors.fill: parent
+        id: elided
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
         elide: Text.ElideRight
         font: editor.font
         horizontalAlignment: Text.AlignHCenter
@@ -108,7 +132,7 @@ FocusScope {
         objectName: "elidedValue"
         text: root.truncated ? root.text : ""
         visible: root.truncated
-        wrapMode: Text.Wrap
+        wrapMode: Text.WrapAnywhere
     }
 
     FocusRing {

@@ -158,6 +158,167 @@ TestCase {
         verifyIsFullyReadable();
     }
 
+    // The texts of the lines in which the editor shows the secret.
+    function lines(): list<string> {
+        const editor = content.value.editor;
+        const texts = [];
+        let y = -1;
+        for (let i = 0; i < editor.length; ++i) {
+            const top = editor.positionToRectangle(i).y;
+            if (top > y)
+                texts.push("");
+            y = Math.max(top, y);
+            texts[texts.length - 1] += editor.text[i];
+        }
+        compare(texts.length, editor.lineCount);
+        return texts;
+    }
+
+    function test_passwordsHaveBalancedLinesOfTheSameSizeInEveryDraw_data() {
+        // 355 pixels have 21 characters of the larger font and 26 of the smaller font.
+        return [{
+                "length": 10,
+                "lines": [10]
+            }, {
+                "length": 21,
+                "lines": [21]
+            }, {
+                "length": 22,
+                "lines": [11, 11]
+            }, {
+                "length": 38,
+                "lines": [19, 19]
+            }, {
+                "length": 39,
+                "lines": [20, 19]
+            }, {
+                "length": 53,
+                "lines": [18, 18, 17]
+            }, {
+                "length": 64,
+                "lines": [22, 21, 21]
+            }].map(row => Object.assign(row, {
+                        "tag": String(row.length)
+                    }));
+    }
+
+    function test_passwordsHaveBalancedLinesOfTheSameSizeInEveryDraw(data) {
+        content.model.settings.length = data.length;
+        for (let i = 0; i < 5; ++i) {
+            content.model.generate();
+            compare(lines().map(line => line.length), data.lines);
+            compare(content.value.size, data.length > 38 ? 22 : 28);
+        }
+    }
+
+    function test_passphrasesBreakAfterTheSeparator_data() {
+        return ["-", ".", "_", ",", "+", " ", " · ", " - ", "x", "7", "", "é", "א", "שלו", "(", "—", "🔑", "🇩🇪"].map(separator => ({
+                        "tag": "'" + separator + "'",
+                        "separator": separator
+                    }));
+    }
+
+    function test_passphrasesBreakAfterTheSeparator(data) {
+        content.model.settings.mode = 1;
+        content.model.settings.separator = data.separator;
+        for (const wordCount of [4, 8]) {
+            content.model.settings.wordCount = wordCount;
+            for (let i = 0; i < 4; ++i) {
+                content.model.generate();
+                verifyIsFullyReadable();
+                const shown = lines();
+                compare(shown.join(""), content.model.generated);
+                for (const line of shown.slice(1))
+                    verify(/^([a-z]{3}|[0-9]{1,2}$)/.test(line), shown.join(" / "));
+                if (data.separator.length > 0) {
+                    for (const line of shown.slice(0, -1))
+                        verify(line.endsWith(data.separator), shown.join(" / "));
+                }
+            }
+        }
+    }
+
+    function test_theLinesAreCentred() {
+        content.model.settings.length = 64;
+        const editor = content.value.editor;
+        let start = 0;
+        for (const line of lines()) {
+            const left = editor.positionToRectangle(start).x;
+            const last = editor.positionToRectangle(start + line.length - 1);
+            const character = editor.positionToRectangle(start + 1).x - left;
+            fuzzyCompare(left, editor.width - last.x - character, 1);
+            start += line.length;
+        }
+    }
+
+    function test_theButtonsStayWhereTheyAre_data() {
+        return [{
+                "tag": "passwords",
+                "mode": 0,
+                "wordCount": 5,
+                "separator": "-"
+            }, {
+                "tag": "3 words",
+                "mode": 1,
+                "wordCount": 3,
+                "separator": "-"
+            }, {
+                "tag": "4 words",
+                "mode": 1,
+                "wordCount": 4,
+                "separator": "-"
+            }, {
+                "tag": "5 words",
+                "mode": 1,
+                "wordCount": 5,
+                "separator": " · "
+            }, {
+                "tag": "6 words",
+                "mode": 1,
+                "wordCount": 6,
+                "separator": "-"
+            }, {
+                "tag": "8 words",
+                "mode": 1,
+                "wordCount": 8,
+                "separator": ""
+            }];
+    }
+
+    function test_theButtonsStayWhereTheyAre(data) {
+        content.width = 860;
+        content.model.settings.mode = data.mode;
+        content.model.settings.wordCount = data.wordCount;
+        content.model.settings.separator = data.separator;
+        for (let i = 0; i < 4; ++i)
+            content.model.generate();
+        const column = findChild(content, "resultColumn") as Item;
+        verify(waitForItemPolished(column));
+        const button = findChild(content, "generate") as Button;
+        const position = button.mapToItem(content, 0, 0);
+        for (let i = 0; i < 40; ++i) {
+            content.model.generate();
+            verify(waitForItemPolished(column));
+            compare(button.mapToItem(content, 0, 0), position);
+        }
+    }
+
+    function test_everyClickAtOnePlaceHitsTheButtonWhileTheHistoryGrows() {
+        compare(content.model.history.length, 1);
+        const button = findChild(content, "generate") as Button;
+        const column = findChild(content, "resultColumn") as Item;
+        const point = button.mapToItem(content, button.width / 2, button.height / 2);
+        for (let i = 0; i < 40; ++i) {
+            mouseMove(content, point.x, point.y);
+            mouseClick(content, point.x, point.y);
+            verify(waitForItemPolished(column));
+        }
+        compare(generations.count, 40);
+        // The pointer leaves the buttons, and the column is centred again.
+        mouseMove(content, 1, 1);
+        tryVerify(() => Math.abs(column.y + column.height / 2 - content.height / 2) <= 0.51);
+    }
+
     function test_aSecretThatDoesNotFitShrinksTo65PercentBeforeItIsElided() {
         let length = 64;
         const sizes = [];
@@ -187,7 +348,7 @@ TestCase {
         const panel = findChild(content, "resultPanel") as Item;
         compare(value.width, panel.width - 60 - 64);
         compare(value.mapToItem(panel, 0, 0).x, 30 + 32);
-        compare(value.editor.horizontalAlignment, TextEdit.AlignHCenter);
+        compare(value.editor.width, value.width);
     }
 
     function test_theSecretIsSelectedAndCopiedByKeyboard() {
@@ -208,12 +369,49 @@ TestCase {
 
     function test_theSecretIsSelectedByPointer() {
         const value = content.value.editor;
-        const left = (value.width - value.contentWidth) / 2;
-        mousePress(value, left, value.height / 2);
-        mouseMove(value, left + value.contentWidth / 4, value.height / 2);
-        mouseMove(value, left + value.contentWidth / 2, value.height / 2);
-        mouseRelease(value, left + value.contentWidth / 2, value.height / 2);
+        const x = [0, 2, 5].map(position => value.positionToRectangle(position).x);
+        mousePress(value, x[0], value.height / 2);
+        mouseMove(value, x[1], value.height / 2);
+        mouseMove(value, x[2], value.height / 2);
+        mouseRelease(value, x[2], value.height / 2);
         compare(value.selectedText, content.model.generated.slice(0, 5));
+    }
+
+    function test_clicksSelectAWordAndEverything() {
+        content.model.settings.mode = 1;
+        const value = content.value.editor;
+        const words = value.text.split("-");
+        const second = value.positionToRectangle(words[0].length + 2);
+        const centre = second.y + second.height / 2;
+        mouseDoubleClickSequence(value, second.x, centre);
+        compare(value.selectedText, words[1]);
+        mouseClick(value, second.x, centre);
+        compare(value.selectedText, value.text);
+    }
+
+    function test_aClickMovesTheCursorAndShiftExtendsTheSelection() {
+        const value = content.value.editor;
+        const x = [0, 5, 7].map(position => value.positionToRectangle(position).x);
+        mouseClick(value, x[1], value.height / 2);
+        compare(value.selectedText, "");
+        mouseClick(value, x[2], value.height / 2, Qt.LeftButton, Qt.ShiftModifier);
+        compare(value.selectedText, value.text.slice(5, 7));
+        mouseClick(value, x[0], value.height / 2, Qt.LeftButton, Qt.ShiftModifier);
+        compare(value.selectedText, value.text.slice(0, 5));
+    }
+
+    function test_theKeyboardSelectsLines() {
+        content.model.settings.length = 64;
+        const value = content.value.editor;
+        value.forceActiveFocus();
+        const shown = lines();
+        keySequence("Ctrl+Home");
+        keySequence("Shift+Down");
+        compare(value.selectedText, value.text.slice(0, shown[0].length));
+        keySequence("Shift+Left");
+        compare(value.selectedText, value.text.slice(0, shown[0].length - 1));
+        keySequence("Shift+End");
+        compare(value.selectedText, shown[0]);
     }
 
     function test_theSecretCannotBeEdited() {
