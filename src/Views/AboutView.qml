@@ -19,8 +19,8 @@ Rectangle {
     Column {
         anchors.centerIn: parent
         objectName: "aboutColumn"
-        spacing: 14
-        width: parent.width - 2 * 34
+        spacing: Theme.scaled(14)
+        width: parent.width - 2 * Theme.scaled(34)
 
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -28,7 +28,7 @@ Rectangle {
             height: width
             name: "de.morvane.Morvane"
             objectName: "aboutIcon"
-            width: 96
+            width: Theme.scaled(96)
         }
 
         Line {

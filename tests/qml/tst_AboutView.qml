@@ -10,10 +10,13 @@ TestCase {
     id: testCase
 
     property AboutView view: null
+    // The free space above the column at the default text size.
+    property real defaultTop
 
     function init() {
         view = viewComponent.createObject(testCase) as AboutView;
         verify(waitForRendering(view));
+        defaultTop = column().y;
     }
 
     function cleanup() {
@@ -150,6 +153,29 @@ TestCase {
         verify(column().y >= 0);
         for (const line of Array.from(lines()))
             verify(line.contentWidth <= line.width + 0.5, line.text);
+    }
+
+    function test_everythingGrowsWithTheText_data() {
+        return [{
+                "tag": "150 %",
+                "pixels": 20
+            }, {
+                "tag": "200 %",
+                "pixels": 26
+            }];
+    }
+
+    function test_everythingGrowsWithTheText(data) {
+        const scale = data.pixels / 13;
+        system.setFontPixelSize(data.pixels);
+        verify(waitForItemPolished(column()));
+        const icon = findChild(view, "aboutIcon") as Item;
+        const divider = findChild(view, "aboutDivider") as Item;
+        for (const [length, base] of [[view.width, 370], [view.height, 390], [icon.width, 96], [icon.height, 96], [divider.width, 260], [column().spacing, 14], [column().x, 34]])
+            fuzzyCompare(length, base * scale, 0.51);
+        // The free space above and below the column grows as well.
+        fuzzyCompare(column().y / scale, defaultTop, 4);
+        fuzzyCompare(view.height - column().y - column().height, column().y, 1);
     }
 
     readonly property int defaultFontPixelSize: 12
