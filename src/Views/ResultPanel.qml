@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import Morvane.ViewModel
+import Morvane.Views
 import Morvane.Views.Controls
 
 Rectangle {
@@ -135,6 +136,13 @@ Rectangle {
 
             onChosen: secret => root.model.useFromHistory(secret)
         }
+    }
+
+    Announcer {
+        model: root.model
+
+        Accessible.name: message
+        Accessible.role: Accessible.Notification
     }
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.

@@ -3,16 +3,15 @@
 
 #pragma once
 
-#include "Platform/Clipboard.h"
-
+#include <QEvent>
 #include <QKeyEvent>
-#include <QKeySequence>
 #include <QObject>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Copies the selection of `editor`, a read-only `TextEdit`, as plain text that is marked as a
-/// secret. Qt's own copy function also copies styled text, and sets no mark.
+/// Selects and copies text of `editor`, a read-only `TextEdit`, by the keyboard. The copy is plain
+/// text that is marked as a secret. Qt's own functions also copy styled text, set no mark, and put
+/// every selection into the primary selection of X11 and Wayland.
 class SecretSelection : public QObject
 {
     Q_OBJECT
@@ -24,41 +23,17 @@ public:
     using QObject::QObject;
 
     /// Called once. `editor` outlives this object.
-    void setEditor(QQuickItem* editor)
-    {
-        m_editor = editor;
-        m_editor->installEventFilter(this);
-    }
+    void setEditor(QQuickItem* editor);
 
     /// Copies the selected text, if any.
-    Q_INVOKABLE void copy() const
-    {
-        const QString text = m_editor->property("selectedText").toString();
-        if (!text.isEmpty())
-            Platform::Clipboard::setSecret(text);
-    }
+    Q_INVOKABLE void copy() const;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        switch (event->type()) {
-        case QEvent::ShortcutOverride:
-            // A TextEdit accepts shortcuts that a read-only text does not use. The window does not
-            // receive accepted shortcuts.
-            event->ignore();
-            return true;
-        case QEvent::KeyPress:
-            // NOLINTNEXTLINE(*-static-cast-downcast): the type of the event determines its class
-            if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
-                break;
-            copy();
-            return true;
-        default:
-            break;
-        }
-        return QObject::eventFilter(watched, event);
-    }
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Whether `event` is a key of the editor, which has then had its effect.
+    [[nodiscard]] bool handleKey(const QKeyEvent& event) const;
+
     QQuickItem* m_editor = nullptr;
 };

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
 import QtQuick
 import Morvane.ViewModel
 import Morvane.Views
@@ -59,8 +60,8 @@ FocusScope {
         objectName: "value"
         persistentSelection: true
         readOnly: true
-        selectByKeyboard: true
-        // Qt would put text that the pointer selects into the primary selection of X11 and Wayland.
+        // Qt would put the selected text into the primary selection of X11 and Wayland.
+        selectByKeyboard: false
         selectByMouse: false
         selectedTextColor: color
         selectionColor: Theme.selection
@@ -71,9 +72,36 @@ FocusScope {
         cursorDelegate: Item {
         }
 
+        Keys.forwardTo: [contextMenu]
+
         Accessible.name: text
         Accessible.readOnly: true
         Accessible.role: Accessible.StaticText
+
+        ContextMenuArea {
+            id: contextMenu
+
+            cursorRectangle: editor.cursorRectangle
+            // Only displays the shortcuts, which the main menu handles.
+            menu: Menu {
+                MenuItem {
+                    isAvailable: editor.selectedText !== ""
+                    isShortcutEnabled: false
+                    shortcut: "Ctrl+C"
+                    title: "Auswahl kopieren"
+
+                    onActivated: root.copy()
+                }
+
+                MenuItem {
+                    isShortcutEnabled: false
+                    shortcut: "Ctrl+A"
+                    title: "Alles auswählen"
+
+                    onActivated: root.selectAll()
+                }
+            }
+        }
     }
 
     SecretLayout {

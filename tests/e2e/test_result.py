@@ -1,0 +1,229 @@
+# SPDX-FileCopyrightText: 2026 Morvane-Projekt
+# SPDX-License-Identifier: MIT
+
+"""The result panel under X11: selecting, copying, generating and announcing the secret."""
+
+import re
+import subprocess
+import unittest
+
+from desktop import (
+    Desktop,
+    Program,
+    find_first,
+    key,
+    move_pointer,
+    output,
+    qt_version,
+    role_name,
+    wait_for,
+)
+
+PASSPHRASE = r"([a-z]+-){4}[0-9]{1,2}"
+
+
+def setUpModule():
+    # One desktop for all tests, because pyatspi connects to one accessibility bus only.
+    Result.desktop = Desktop()
+    unittest.addModuleCleanup(Result.desktop.close)
+
+
+class Result(unittest.TestCase):
+    def setUp(self):
+        self.program = self.enterContext(Program(self.desktop))
+        self.program.ensure_keyboard_focus()
+
+    def show_passphrase(self):
+        """Shows four words of the word list and waits for them."""
+        self.program.press("Passphrase")
+        self.program.set_slider("Wörter", 4)
+        wait_for(
+            lambda: re.fullmatch(PASSPHRASE, self.program.secret() or ""), "four words and a number"
+        )
+
+    def value(self):
+        secret = self.program.secret()
+        return self.program.find(
+            lambda a: a.name == secret and role_name(a) == "label", "the secret"
+        )
+
+    def box(self):
+        import pyatspi
+
+        return self.value().queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+
+    def click(self, *arguments):
+        subprocess.run(["xdotool", "click", *arguments], check=True)
+
+    def clipboard(self, selection="clipboard"):
+        return output("timeout", "2", "xclip", "-o", "-selection", selection)
+
+    def copied(self):
+        """The text that Ctrl+C puts on the clipboard in place of a marker."""
+        subprocess.run(["xclip", "-selection", "clipboard"], input="-", text=True, check=True)
+        key("ctrl+c")
+        wait_for(lambda: self.clipboard() != "-", "another text on the clipboard")
+        return self.clipboard()
+
+
+class Generating(Result):
+    def test_every_click_at_one_place_generates_a_passphrase(self):
+        self.show_passphrase()
+        self.click_repeatedly(40)
+
+    def test_every_click_at_one_place_generates_a_password_while_the_history_grows(self):
+        self.assertEqual(len(self.program.history()), 1)
+        self.click_repeatedly(8)
+
+    def click_repeatedly(self, count):
+        """Clicks near the upper edge of the button, and waits for another secret after each click."""
+        x, y = self.program.stable_centre("Neu erzeugen")
+        move_pointer(x, y - 12)
+        for number in range(count):
+            secret = self.program.secret()
+            self.click("1")
+            wait_for(
+                lambda before=secret: self.program.secret() != before,
+                f"another secret after click {number + 1}",
+                deadline=5,
+            )
+
+
+class Selecting(Result):
+    def assert_no_primary_selection(self):
+        self.assertEqual(self.clipboard("primary"), "")
+
+    def test_a_drag_selects_without_the_primary_selection(self):
+        box = self.box()
+        y = box.y + box.height // 2
+        # The text is centred in the box. Ten characters of 28 pixels are more than 150 pixels wide.
+        centre = box.x + box.width // 2
+        move_pointer(centre - 60, y)
+        subprocess.run(["xdotool", "mousedown", "1"], check=True)
+        move_pointer(centre, y)
+        move_pointer(centre + 60, y)
+        subprocess.run(["xdotool", "mouseup", "1"], check=True)
+        selected = self.copied()
+        self.assertIn(selected, self.program.secret())
+        self.assertIn(len(selected), range(5, 10))
+        self.assert_no_primary_selection()
+
+    def test_clicks_select_a_word_and_everything_without_the_primary_selection(self):
+        self.show_passphrase()
+        box = self.box()
+        move_pointer(box.x + box.width // 2 - 20, box.y + box.height // 2 - 15)
+        self.click("--repeat", "2", "--delay", "50", "1")
+        self.assertIn(self.copied(), self.program.secret().split("-"))
+        self.click("--repeat", "3", "--delay", "50", "1")
+        wait_for(lambda: self.copied() == self.program.secret(), "the whole secret")
+        self.assert_no_primary_selection()
+
+    def test_keys_select_without_the_primary_selection(self):
+        secret = self.program.secret()
+        self.value().queryComponent().grabFocus()
+        key("ctrl+Home", "shift+Right", "shift+Right", "shift+Right")
+        self.assertEqual(self.copied(), secret[:3])
+        key("ctrl+a")
+        self.assertEqual(self.copied(), secret)
+        self.assert_no_primary_selection()
+
+    def test_copied_text_has_no_line_breaks(self):
+        self.program.set_slider("Länge", 64)
+        wait_for(lambda: len(self.program.secret()) == 64, "64 characters")
+        self.value().queryComponent().grabFocus()
+        key("ctrl+a")
+        self.assertEqual(self.copied(), self.program.secret())
+        self.assertRegex(self.program.secret(), r"^\S{64}$")
+
+
+class ContextMenu(Result):
+    def menu_items(self):
+        """The items of the open context menu, with their states; empty without a menu."""
+        import pyatspi
+
+        found = []
+        find_first(
+            self.program.accessible(),
+            lambda a: found.append((a.name, a.getState().contains(pyatspi.STATE_ENABLED)))
+            if role_name(a) == "menu item"
+            else None,
+        )
+        return dict(found)
+
+    def open_by_pointer(self):
+        box = self.box()
+        move_pointer(box.x + box.width // 2, box.y + box.height // 2)
+        self.click("3")
+        return wait_for(self.menu_items, "the context menu")
+
+    def test_the_right_button_opens_a_menu_that_selects_and_copies(self):
+        items = self.open_by_pointer()
+        self.assertEqual(list(items), ["Auswahl kopieren", "Alles auswählen"])
+        self.program.click("Alles auswählen", "menu item")
+        wait_for(lambda: not self.menu_items(), "no menu")
+        self.open_by_pointer()
+        self.program.click("Auswahl kopieren", "menu item")
+        wait_for(lambda: self.clipboard() == self.program.secret(), "the copied secret")
+
+    def test_keys_open_the_menu(self):
+        for combination in ("Menu", "shift+F10"):
+            with self.subTest(combination):
+                self.value().queryComponent().grabFocus()
+                key(combination)
+                wait_for(self.menu_items, "the context menu")
+                key("Escape")
+                wait_for(lambda: not self.menu_items(), "no menu")
+
+
+class Announcements(Result):
+    """What a screen reader is told without being asked."""
+
+    def setUp(self):
+        from gi.repository import Atspi
+
+        super().setUp()
+        self.messages = []
+        self.listener = Atspi.EventListener.new(self.receive)
+        self.type = (
+            "object:announcement" if qt_version() >= (6, 8) else "object:state-changed:showing"
+        )
+        self.listener.register(self.type)
+        self.addCleanup(self.listener.deregister, self.type)
+
+    def receive(self, event):
+        if event.type == "object:announcement":
+            self.messages.append(event.any_data)
+        elif event.detail1 and event.source.get_role_name() == "notification":
+            self.messages.append(event.source.name)
+
+    def wait_for_message(self, message):
+        from gi.repository import GLib
+
+        def is_announced():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return message in self.messages
+
+        wait_for(is_announced, f"the announcement {message}")
+
+    def test_a_new_secret_is_announced(self):
+        self.program.press("Neu erzeugen")
+        self.wait_for_message(self.program.secret())
+        self.program.set_slider("Länge", 64)
+        wait_for(lambda: len(self.program.secret()) == 64, "64 characters")
+        self.wait_for_message(self.program.secret())
+
+    def test_the_copy_is_announced(self):
+        key("ctrl+shift+c")
+        self.wait_for_message("Kopiert")
+
+    def test_an_error_is_announced(self):
+        for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen", "Sonderzeichen"):
+            self.program.press(name)
+        alert = self.program.find(lambda a: a.name == "OK", "the alert").parent
+        message = [a.name for a in alert if role_name(a) == "label"][-1]
+        self.wait_for_message(message)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
