@@ -70,6 +70,22 @@ class Wayland(unittest.TestCase):
             self.desktop.key("ctrl+r")
             self.wait_for_another_password(program, password)
 
+    def test_a_drag_selects_without_the_primary_selection(self):
+        with WaylandProgram(self.desktop) as program:
+            program.ensure_keyboard_focus()
+            value = program.find(is_password, "a password")
+            x, y = program.centre_of(value)
+            self.desktop.move(x - 60, y)
+            self.desktop.press()
+            self.desktop.move(x, y)
+            self.desktop.move(x + 60, y)
+            self.desktop.release()
+            self.desktop.key("ctrl+c")
+            copied = wait_for(lambda: output("wl-paste", "--no-newline"), "the copied selection")
+            self.assertIn(copied, value.name)
+            self.assertIn(len(copied), range(5, 10))
+            self.assertEqual(output("wl-paste", "--primary", "--no-newline"), "")
+
     def test_draws_at_other_scales(self):
         self.addCleanup(self.desktop.set_scale, 1)
         self.desktop.move(0, 0)  # away from the window
