@@ -4,6 +4,7 @@
 #include "Views/Announcer.h"
 
 #include <QAccessible>
+#include <QQuickWindow>
 #include <QTimerEvent>
 
 #include <utility>

@@ -251,6 +251,27 @@ TestCase {
         }
     }
 
+    function test_theRatingKeepsItsDistanceFromLinesWithTallCharacters() {
+        tryCompare(tallFont, "status", FontLoader.Ready);
+        content.model.settings.mode = 1;
+        content.model.settings.wordCount = 8;
+        const usual = content.value.editor.contentHeight / content.value.editor.lineCount;
+        content.model.settings.separator = tallCharacter;
+        const value = content.value;
+        const heights = new Map();
+        for (let i = 0; i < value.editor.length; ++i) {
+            const rectangle = value.editor.positionToRectangle(i);
+            heights.set(rectangle.y, rectangle.height);
+        }
+        const sum = Array.from(heights.values()).reduce((a, b) => a + b, 0);
+        compare(heights.size, value.editor.lineCount);
+        verify(sum > 1.5 * usual * heights.size, "height of the lines: " + sum);
+        verify(value.height >= sum, "height of the value: " + value.height);
+        const column = findChild(content, "resultColumn") as Item;
+        verify(waitForItemPolished(column));
+        compare(findChild(content, "strength").mapToItem(column, 0, 0).y, value.y + value.height + 22);
+    }
+
     function test_theButtonsStayWhereTheyAre_data() {
         return [{
                 "tag": "passwords",
@@ -591,6 +612,9 @@ TestCase {
         compare(rows[2].mapToItem(box, rows[2].width, rows[2].height), Qt.point(box.width - 16, box.height - 16));
     }
 
+    // A character of the private use area that only `tallFont` has.
+    readonly property string tallCharacter: "\uE0F0"
+
     height: 800
     name: "ResultPanel"
     visible: true
@@ -607,6 +631,13 @@ TestCase {
 
     FakeSystem {
         id: system
+    }
+
+    // A font with one character. Its lines are 2.5 times as high as the font's size.
+    FontLoader {
+        id: tallFont
+
+        source: "data:font/ttf;base64,AAEAAAAKAIAAAwAgT1MvMiKIMMQAAAEoAAAAYGNtYXAADOFDAAABkAAAADRnbHlms5Zh6AAAAcwAAAAWaGVhZF9GPbgAAACsAAAANmhoZWEAsgASAAAA5AAAACRobXR4ADAAAAAAAYgAAAAGbG9jYQALAAAAAAHEAAAABm1heHAABAAGAAABCAAAACBuYW1lTkRyZgAAAeQAAABXcG9zdAADAAAAAAI8AAAAIAABAAAAAQAAnERUsl8PPPUAAwBAAAAAAAAAAAAAAAAAAAAAAAAAAAAAMACAAAAAAwACAAAAAAAAAAEAAACA/+AAAAAwAAAAAAAwAAEAAAAAAAAAAAAAAAAAAAABAAEAAAACAAQAAQAAAAAAAgAAAAAAAAAAAAAAAAAAAAAAAwAwAZAABQAEAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAEAAAAAAAAAAAAAAAPz8/PwAA4PDg8ACA/+AAAACAACAAAAAAAAAAAAAAAAAAAAAgAAAAMAAAAAAAAAAAAAIAAAADAAAAFAADAAEAAAAUAAQAIAAAAAQABAABAADg8P//AADg8P//HxEAAQAAAAAAAAAAAAsAAAABAAAAAAAwAIAAAwAAMTUzFTCAgAAAAAAAAAQANgABAAAAAAABAAQAAAABAAAAAAACAAcABAADAAEECQABAAgACwADAAEECQACAA4AE1RhbGxSZWd1bGFyAFQAYQBsAGwAUgBlAGcAdQBsAGEAcgAAAwAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA=="
     }
 
     SignalSpy {
