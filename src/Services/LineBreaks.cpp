@@ -31,9 +31,10 @@ constexpr std::size_t fewestParts = 3;
 qsizetype wordLength(QStringView text)
 {
     const auto isAtStart = [text](std::string_view word) {
-        return text.startsWith(QLatin1String(word.data(), std::ssize(word)), Qt::CaseInsensitive);
+        return text.startsWith(QLatin1String(word.data(), static_cast<qsizetype>(word.size())),
+                               Qt::CaseInsensitive);
     };
-    const auto word = std::ranges::find_if(SecureGenerator::words, isAtStart);
+    const auto* const word = std::ranges::find_if(SecureGenerator::words, isAtStart);
     return word == SecureGenerator::words.end() ? 0 : std::ssize(*word);
 }
 

@@ -8,6 +8,7 @@
 #include <QStringView>
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 /// Decides where the lines of a displayed secret begin and end.
@@ -32,7 +33,7 @@ inline constexpr qsizetype shortSecretLimit = 38;
                                                      double width);
 
 /// Whether a secret has at most `shortSecretLimit` grapheme clusters or more.
-enum class SecretLength { atMostLimit, aboveLimit };
+enum class SecretLength : std::uint8_t { atMostLimit, aboveLimit };
 
 /// Whether a secret of `settings` can have this length.
 [[nodiscard]] bool canOccur(SecretLength length, const GeneratorSettings& settings);

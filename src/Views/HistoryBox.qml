@@ -49,6 +49,7 @@ Rectangle {
                 objectName: "historyRow" + index
                 radius: Theme.rowRadius
                 rightInset: -6
+                toolTip: label.truncated ? secret : ""
                 verticalPadding: 3
                 width: rows.width
 
@@ -58,6 +59,8 @@ Rectangle {
                 onClicked: root.chosen(secret)
 
                 contentItem: PlainText {
+                    id: label
+
                     color: Theme.secondaryText
                     elide: Text.ElideRight
                     font: row.font

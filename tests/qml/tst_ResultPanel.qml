@@ -246,7 +246,7 @@ TestCase {
             const left = editor.positionToRectangle(start).x;
             const last = editor.positionToRectangle(start + line.length - 1);
             const character = editor.positionToRectangle(start + 1).x - left;
-            fuzzyCompare(left, editor.width - last.x - character, 1);
+            fuzzyCompare(left, editor.width - last.x - character, 2);
             start += line.length;
         }
     }
@@ -595,6 +595,29 @@ TestCase {
         compare(text.mapToItem(row, text.width, 0).x, row.width);
         compare(arrow.name, "arrow.up.left");
         compare(arrow.x + arrow.width, row.width);
+    }
+
+    function test_aCutHistorySecretHasAToolTip() {
+        content.model.settings.length = 64;
+        for (let i = 0; i < 4; ++i)
+            content.model.generate();
+        const row = findChild(content, "historyRow0") as Button;
+        row.hoverEnabled = true; // The offscreen platform has no hover effects by default.
+        verify(waitForItemPolished(findChild(content, "resultColumn")));
+        mouseMove(row, row.width / 2, row.height / 2);
+        tryVerify(() => row.builtToolTip?.opened ?? false);
+        compare(row.builtToolTip.text, content.model.generated);
+        content.model.generate();
+        compare(row.builtToolTip.text, content.model.generated);
+        mouseMove(content, 1, 1);
+        tryVerify(() => !row.builtToolTip.visible);
+        compare(row.builtToolTip.text, "");
+        content.model.settings.length = 10;
+        compare(row.toolTip, "");
+        row.forceActiveFocus(Qt.TabFocusReason);
+        verify(row.visualFocus && !row.builtToolTip.visible);
+        content.model.settings.length = 64;
+        tryVerify(() => row.builtToolTip.opened);
     }
 
     function test_historyBoxHasPadding16AndSpacing8() {

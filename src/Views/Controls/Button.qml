@@ -34,6 +34,10 @@ T.Button {
     }
 
     onIsToolTipWantedChanged: showToolTip(isToolTipWanted)
+    onToolTipChanged: {
+        if (builtToolTip?.visible)
+            builtToolTip.text = toolTip;
+    }
     onPressed: showToolTip(false)
 
     Keys.onPressed: event => {
@@ -48,7 +52,8 @@ T.Button {
         if (shown && !builtToolTip)
             builtToolTip = Qt.createComponent(Qt.resolvedUrl("ToolTip.qml")).createObject(control) as T.ToolTip;
         if (builtToolTip) {
-            builtToolTip.text = control.toolTip;
+            // A hidden tool tip keeps no text, which can be a secret.
+            builtToolTip.text = shown ? control.toolTip : "";
             builtToolTip.visible = shown;
         }
     }
