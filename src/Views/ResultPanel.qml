@@ -9,6 +9,10 @@ Rectangle {
     id: root
 
     required property GeneratorViewModel model
+    // While the pointer is over the buttons, a growing history does not move them: the column stays
+    // at `heldY` and is not centred.
+    property real heldY
+    property bool isHeld: false
     // The height that the panel needs for a long secret on three lines.
     readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.longSecretHeight + 2 * (root.padding + column.spacing)
     // The width that the panel needs for the longest secret, at the default text size and above.
@@ -21,13 +25,11 @@ Rectangle {
 
     color: Theme.surface
 
-    // Centred, except that a growing history does not move the buttons away from the pointer.
-    Binding {
-        property: "y"
-        restoreMode: Binding.RestoreNone
-        target: column
-        value: Math.round((root.height - column.height) / 2)
-        when: !buttonsHover.hovered || column.y + column.height > root.height
+    Announcer {
+        model: root.model
+
+        Accessible.name: message
+        Accessible.role: Accessible.Notification
     }
 
     Column {
@@ -37,6 +39,7 @@ Rectangle {
         objectName: "resultColumn"
         spacing: 22
         width: parent.width - 2 * root.padding
+        y: root.isHeld ? Math.min(root.heldY, root.height - height) : Math.round((root.height - height) / 2)
 
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -95,7 +98,10 @@ Rectangle {
             spacing: 12
 
             HoverHandler {
-                id: buttonsHover
+                onHoveredChanged: {
+                    root.heldY = column.y;
+                    root.isHeld = hovered;
+                }
             }
 
             Button {
@@ -136,13 +142,6 @@ Rectangle {
 
             onChosen: secret => root.model.useFromHistory(secret)
         }
-    }
-
-    Announcer {
-        model: root.model
-
-        Accessible.name: message
-        Accessible.role: Accessible.Notification
     }
 
     // Since Qt 6.8, a shortcut also matches while another window of the program has keyboard focus.

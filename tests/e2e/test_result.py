@@ -189,14 +189,13 @@ class Announcements(Result):
     def setUp(self):
         from gi.repository import Atspi
 
-        super().setUp()
         self.messages = []
-        self.listener = Atspi.EventListener.new(self.receive)
-        self.type = (
-            "object:announcement" if qt_version() >= (6, 8) else "object:state-changed:showing"
-        )
-        self.listener.register(self.type)
-        self.addCleanup(self.listener.deregister, self.type)
+        listener = Atspi.EventListener.new(self.receive)
+        event = "object:announcement" if qt_version() >= (6, 8) else "object:state-changed:showing"
+        # Before the program starts, because Qt sends only events that have a listener.
+        listener.register(event)
+        self.addCleanup(listener.deregister, event)
+        super().setUp()
 
     def receive(self, event):
         if event.type == "object:announcement":
@@ -215,7 +214,9 @@ class Announcements(Result):
         wait_for(is_announced, f"the announcement {message}")
 
     def test_a_new_secret_is_announced(self):
+        secret = self.program.secret()
         self.program.press("Neu erzeugen")
+        wait_for(lambda: self.program.secret() != secret, "another secret")
         self.wait_for_message(self.program.secret())
         self.program.set_slider("Länge", 64)
         wait_for(lambda: len(self.program.secret()) == 64, "64 characters")
