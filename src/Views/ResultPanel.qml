@@ -9,10 +9,9 @@ Rectangle {
     id: root
 
     required property GeneratorViewModel model
-    // While the pointer is over the buttons, a growing history does not move them: the column stays
-    // at `heldY` and is not centred.
-    property real heldY
-    property bool isHeld: false
+    // The height of the history box when the pointer entered the panel. The history that grows under
+    // the pointer does not move the buttons; the column is centred as if the height had stayed.
+    property real historyHeight: 0
     // The height that the panel needs for a long secret on three lines.
     readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.longSecretHeight + 2 * (root.padding + column.spacing)
     // The width that the panel needs for the longest secret, at the default text size and above.
@@ -24,6 +23,12 @@ Rectangle {
     signal valueFocused
 
     color: Theme.surface
+
+    HoverHandler {
+        id: pointer
+
+        onHoveredChanged: root.historyHeight = history.height
+    }
 
     Announcer {
         model: root.model
@@ -39,7 +44,7 @@ Rectangle {
         objectName: "resultColumn"
         spacing: 22
         width: parent.width - 2 * root.padding
-        y: root.isHeld ? Math.min(root.heldY, root.height - height) : Math.round((root.height - height) / 2)
+        y: Math.min(root.height - height, Math.round((root.height - height + (pointer.hovered ? history.height - root.historyHeight : 0)) / 2))
 
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -97,13 +102,6 @@ Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
 
-            HoverHandler {
-                onHoveredChanged: {
-                    root.heldY = column.y;
-                    root.isHeld = hovered;
-                }
-            }
-
             Button {
                 icon.name: "arrow.clockwise"
                 objectName: "generate"
@@ -134,6 +132,8 @@ Rectangle {
         }
 
         HistoryBox {
+            id: history
+
             anchors.horizontalCenter: parent.horizontalCenter
             history: root.model.history
             objectName: "history"

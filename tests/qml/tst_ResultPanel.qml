@@ -335,7 +335,7 @@ TestCase {
             verify(waitForItemPolished(column));
         }
         compare(generations.count, 40);
-        // The pointer leaves the buttons, and the column is centred again.
+        // The pointer leaves the panel, and the column is centred again.
         mouseMove(content, 1, 1);
         tryVerify(() => Math.abs(column.y + column.height / 2 - content.height / 2) <= 0.51);
     }
