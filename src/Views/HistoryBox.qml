@@ -49,7 +49,7 @@ Rectangle {
                 objectName: "historyRow" + index
                 radius: Theme.rowRadius
                 rightInset: -6
-                toolTip: label.truncated ? secret : ""
+                toolTip: (contentItem as PlainText).truncated ? secret : ""
                 verticalPadding: 3
                 width: rows.width
 
@@ -59,8 +59,6 @@ Rectangle {
                 onClicked: root.chosen(secret)
 
                 contentItem: PlainText {
-                    id: label
-
                     color: Theme.secondaryText
                     elide: Text.ElideRight
                     font: row.font

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -138,7 +139,7 @@ void SecretLayout::setDocument(QQuickTextDocument* document)
 {
     m_document = document;
     QTextDocument* const text = document->textDocument();
-    text->setDocumentLayout(new BalancedLayout(text));
+    text->setDocumentLayout(std::make_unique<BalancedLayout>(text).release()); // takes ownership
 }
 
 int SecretLayout::fittingSize(const QString& secret, const QFont& font, int smallest, double width)

@@ -84,6 +84,8 @@ FocusScope {
             cursorRectangle: editor.cursorRectangle
             // Only displays the shortcuts, which the main menu handles.
             menu: Menu {
+                title: "Wert"
+
                 MenuItem {
                     isAvailable: editor.selectedText !== ""
                     isShortcutEnabled: false
