@@ -165,9 +165,15 @@ FocusScope {
         wrapMode: Text.WrapAnywhere
     }
 
+    FocusOrigin {
+        id: focusOrigin
+
+        item: editor
+    }
+
     FocusRing {
         gap: 8
         radius: 8
-        visible: editor.activeFocus
+        visible: editor.activeFocus && focusOrigin.isKey
     }
 }
