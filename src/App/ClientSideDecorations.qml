@@ -33,10 +33,9 @@ Item {
         window: root.window
     }
 
-    Rectangle {
+    Box {
         anchors.fill: parent
-        border.color: Theme.divider
-        color: "transparent"
+        borderColor: Theme.divider
         visible: root.window.visibility === Window.Windowed
     }
 

@@ -15,7 +15,7 @@ Item {
     // Emitted to open the menu below `button`, or to close the menu if it is open.
     signal menuToggled(Item button)
 
-    implicitHeight: 40
+    implicitHeight: Theme.scaled(40)
 
     component TitleBarButton: Button {
         id: button
@@ -23,8 +23,8 @@ Item {
         property color highlightedIconColor: Theme.text
 
         flat: true
-        implicitHeight: 28
-        implicitWidth: 32
+        implicitHeight: Theme.scaled(28)
+        implicitWidth: Theme.scaled(32)
         toolTip: text
 
         contentItem: Item {
@@ -33,7 +33,7 @@ Item {
                 color: button.hovered || button.down ? button.highlightedIconColor : Theme.secondaryText
                 height: width
                 name: button.icon.name
-                width: 16
+                width: Theme.scaled(16)
             }
         }
     }

@@ -46,12 +46,12 @@ FocusScope {
         model: root.model
         objectName: "settingsPanel"
         topInset: root.topInset
-        width: Math.max(280, Math.ceil(implicitWidth))
+        width: Math.max(Theme.scaled(280), Math.ceil(implicitWidth))
 
         onFieldFocused: field => root.field = field
     }
 
-    Rectangle {
+    Box {
         id: divider
 
         anchors.bottom: parent.bottom

@@ -5,7 +5,7 @@ import QtQuick
 import Morvane.Views.Controls
 
 // The newest secrets of this run of the program. A click on a row displays the secret of that row.
-Rectangle {
+Box {
     id: root
 
     required property list<string> history
@@ -20,7 +20,7 @@ Rectangle {
         id: rows
 
         anchors.fill: parent
-        anchors.margins: 16
+        anchors.margins: Theme.scaled(16)
         spacing: 8
 
         Label {

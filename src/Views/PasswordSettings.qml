@@ -57,7 +57,7 @@ Column {
         }
     }
 
-    Rectangle {
+    Box {
         color: Theme.divider
         height: 1
         width: parent.width

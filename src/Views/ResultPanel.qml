@@ -138,7 +138,7 @@ Rectangle {
             history: root.model.history
             objectName: "history"
             visible: root.model.history.length > 0
-            width: Math.min(430, parent.width)
+            width: Math.min(Theme.scaled(430), parent.width)
 
             onChosen: secret => root.model.useFromHistory(secret)
         }

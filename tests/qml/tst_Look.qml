@@ -199,7 +199,7 @@ TestCase {
         const before = knob.x;
         mouseClick(symbolsSwitch);
         verify(knob.x < before);
-        compare(knob.x, 2);
+        compare(knob.x, 0);
     }
 
     function test_theKnobIsAnimatedWithoutReducedMotion() {
@@ -207,9 +207,9 @@ TestCase {
         const knob = findChild(symbolsSwitch, "knob") as Item;
         const before = knob.x;
         mouseClick(symbolsSwitch);
-        verify(knob.x > 2);
-        tryCompare(knob, "x", 2);
-        verify(before > 2);
+        verify(knob.x > 0);
+        tryCompare(knob, "x", 0);
+        verify(before > 0);
     }
 
     function test_everyIconIsDrawn_data() {
@@ -320,6 +320,219 @@ TestCase {
         compare(findChild(content, "settingsPanel").width > 280, true);
     }
 
+    // The greatest contrast of the painted pixels from `first` to `second`, points in `item`, to the
+    // pixel at `first`. The points lie on a horizontal or a vertical line.
+    function contrastOfLine(item: Item, first: point, second: point, image: QtObject): real {
+        const begin = item.mapToItem(testCase, first.x, first.y);
+        const end = item.mapToItem(testCase, second.x, second.y);
+        const steps = Math.max(Math.abs(end.x - begin.x), Math.abs(end.y - begin.y));
+        const ground = image.pixel(Math.round(begin.x), Math.round(begin.y));
+        let best = 1;
+        for (let i = 1; i <= steps; ++i) {
+            const x = Math.round(begin.x + (end.x - begin.x) * i / steps);
+            const y = Math.round(begin.y + (end.y - begin.y) * i / steps);
+            best = Math.max(best, contrast(image.pixel(x, y), ground));
+        }
+        return best;
+    }
+
+    function verifyOutline(name: string, item: Item, first: point, second: point) {
+        const measured = contrastOfLine(item, first, second, grabImage(testCase));
+        verify(measured >= 3, name + " has a contrast of " + measured.toFixed(2));
+    }
+
+    function test_outlinesOfControls_data() {
+        return test_contrast_data();
+    }
+
+    function test_outlinesOfControls(data) {
+        // Motion is reduced first, so that the colours change without a transition.
+        system.setAppearance(false, true);
+        system.setAppearance(data.dark, true);
+        const toggle = findChild(content, "symbols") as Switch;
+        const indicator = toggle.indicator;
+        const middle = indicator.height / 2;
+        verify(toggle.checked);
+        verifyOutline("switch that is on", indicator, Qt.point(-3, middle), Qt.point(3, middle));
+        verifyOutline("knob that is on", indicator, Qt.point(middle, middle), Qt.point(indicator.width - middle, middle));
+        content.model.settings.symbols = false;
+        verify(!toggle.checked);
+        verifyOutline("switch that is off", indicator, Qt.point(-3, middle), Qt.point(3, middle));
+        verifyOutline("knob that is off", indicator, Qt.point(indicator.width - middle, middle), Qt.point(middle, middle));
+        content.model.settings.length = 36;
+        const slider = findChild(findChild(content, "length"), "slider") as Slider;
+        verifyOutline("left part of the groove", slider, Qt.point(20, 0), Qt.point(20, slider.height - 1));
+        verifyOutline("right part of the groove", slider, Qt.point(slider.width - 20, 0), Qt.point(slider.width - 20, slider.height - 1));
+        const handle = slider.handle;
+        verifyOutline("slider handle", handle, Qt.point(handle.width / 2, -1), Qt.point(handle.width / 2, handle.height / 2));
+        const picker = findChild(content, "modePicker") as SegmentedControl;
+        verifyOutline("mode picker", picker, Qt.point(picker.width + 3, picker.height / 2), Qt.point(picker.width - 3, picker.height / 2));
+        const boundary = picker.width / 2;
+        verifyOutline("selected segment", picker, Qt.point(boundary + 5, picker.height / 2), Qt.point(boundary - 5, picker.height / 2));
+        const button = findChild(content, "generate") as Button;
+        verifyOutline("button", button, Qt.point(-3, button.height / 2), Qt.point(3, button.height / 2));
+        content.model.settings.mode = 1;
+        const field = findChild(content, "separator") as TextField;
+        verify(waitForItemPolished(findChild(content, "settingsColumn")));
+        verifyOutline("field", field, Qt.point(-3, field.height / 2), Qt.point(3, field.height / 2));
+    }
+
+    function test_theRatingMittelIsOrange_data() {
+        return test_contrast_data();
+    }
+
+    // The contrast is tested by `test_contrast`. Orange that is not bright enough looks brown.
+    function test_theRatingMittelIsOrange(data) {
+        system.setAppearance(data.dark, false);
+        const color = Theme.strengthColors[1];
+        const hue = 360 * color.hsvHue;
+        verify(hue >= 20 && hue <= 40, "hue: " + hue);
+        verify(color.hsvSaturation >= 0.9, "saturation: " + color.hsvSaturation);
+        verify(color.hsvValue >= 0.74, "value: " + color.hsvValue);
+    }
+
+    // The bounds of the pixels in `item` that are not the ground.
+    function paintedBounds(item: Item): rect {
+        const image = grabImage(testCase);
+        const bounds = item.mapToItem(testCase, 0, 0, item.width, item.height);
+        const ground = Theme.window;
+        let left = bounds.right;
+        let right = bounds.left;
+        let top = bounds.bottom;
+        let bottom = bounds.top;
+        for (let y = Math.floor(bounds.top); y < bounds.bottom; ++y) {
+            for (let x = Math.floor(bounds.left); x < bounds.right; ++x) {
+                if (contrast(image.pixel(x, y), ground) < 1.5)
+                    continue;
+                left = Math.min(left, x);
+                right = Math.max(right, x + 1);
+                top = Math.min(top, y);
+                bottom = Math.max(bottom, y + 1);
+            }
+        }
+        return Qt.rect(left - bounds.left, top - bounds.top, right - left, bottom - top);
+    }
+
+    function test_theTitleSymbolIsAsLargeAsTheText() {
+        const title = findChild(content, "title") as IconLabel;
+        const icon = title.children[0].children[0] as Icon; // qmllint disable missing-property
+        compare(icon.name, "key.horizontal.fill");
+        const painted = paintedBounds(icon);
+        verify(painted.left <= 0.5, "The symbol begins at " + painted.left);
+        capital.font = title.font;
+        const capitalHeight = capital.tightBoundingRect.height;
+        verify(Math.abs(painted.height - capitalHeight) <= 1, painted.height + " beside " + capitalHeight);
+    }
+
+    function test_everySwitchHasItsLabelOnOneLine_data() {
+        return Array.from([12, 13, 14, 15, 18, 20], pixels => ({
+                        "tag": pixels + " pixels",
+                        "pixels": pixels
+                    }));
+    }
+
+    function test_everySwitchHasItsLabelOnOneLine(data) {
+        system.setFontPixelSize(data.pixels);
+        waitForLayout();
+        for (const name of ["avoidAmbiguous", "requireEveryGroup"]) {
+            const label = findChild(content, name).contentItem as Text; // qmllint disable missing-property
+            compare(label.lineCount, 1, name);
+            verify(label.contentWidth + label.rightPadding <= label.width, label.contentWidth + " in " + label.width);
+        }
+        if (data.pixels <= 13)
+            compare(findChild(content, "settingsPanel").width, 280);
+    }
+
+    function test_controlsGrowWithTheText() {
+        content.width = 1200;
+        const toggle = findChild(content, "symbols") as Switch;
+        const slider = findChild(findChild(content, "length"), "slider") as Slider;
+        const history = findChild(content, "history") as HistoryBox;
+        const knob = findChild(toggle, "knob") as Item;
+        const measure = () => [toggle.indicator.width, toggle.indicator.height, knob.height, slider.height, slider.handle.width, slider.background.height, history.width];
+        waitForLayout();
+        const before = measure();
+        system.setFontPixelSize(20);
+        waitForLayout();
+        const after = measure();
+        for (let i = 0; i < before.length; ++i)
+            verify(Math.abs(after[i] / before[i] - 20 / 13) <= 0.13, i + ": " + before[i] + " to " + after[i]);
+    }
+
+    function test_theFocusRingOfTheSecretIsForTheKeyboard() {
+        const isRingDrawn = () => {
+            const corner = content.value.mapToItem(testCase, 0, 0);
+            return Qt.colorEqual(grabImage(testCase).pixel(corner.x - 7, corner.y + content.value.height / 2), Theme.accent);
+        };
+        mouseClick(content.value);
+        verify(content.value.editor.activeFocus);
+        verify(!isRingDrawn());
+        const generate = findChild(content, "generate") as Button;
+        generate.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Backtab);
+        verify(content.value.editor.activeFocus);
+        verify(isRingDrawn());
+    }
+
+    function test_popupsHaveAShadow_data() {
+        return test_contrast_data();
+    }
+
+    // The shadow is visible below the popup and fades with the distance.
+    function verifyShadow(background: Item, ground: color) {
+        const below = background.mapToItem(testCase, background.width / 2, background.height);
+        const image = grabImage(testCase);
+        const near = image.pixel(below.x, below.y + 2);
+        const far = image.pixel(below.x, below.y + 10);
+        verify(luminance(near) < 0.93 * luminance(ground), near + " on " + ground);
+        verify(luminance(far) > luminance(near), far + " beside " + near);
+        verify(luminance(far) < luminance(ground), far + " on " + ground);
+    }
+
+    function test_popupsHaveAShadow(data) {
+        system.setAppearance(data.dark, true);
+        shadowMenu.open();
+        tryVerify(() => shadowMenu.opened);
+        verifyShadow(shadowMenu.background, shadowGround.color);
+        shadowMenu.close();
+        tryVerify(() => !shadowMenu.visible);
+    }
+
+    function test_theAlertHasAShadow() {
+        for (const group of ["lowercase", "uppercase", "numbers", "symbols"])
+            content.model.settings[group] = false;
+        const alert = findChild(content, "errorAlert") as ErrorAlert;
+        tryVerify(() => alert.opened);
+        // Below the alert, the scrim covers the surface.
+        const corner = content.mapToItem(testCase, content.width - 20, content.height - 20);
+        verifyShadow(alert.background, grabImage(testCase).pixel(corner.x, corner.y));
+    }
+
+    // Antialiasing would draw pixels of other colours.
+    function test_theSymbolsOfHorizontalLinesAreSharp_data() {
+        return Array.from(["menu", "window.minimize"], name => ({
+                        "tag": name
+                    }));
+    }
+
+    function test_theSymbolsOfHorizontalLinesAreSharp(data) {
+        titleBarSymbol.name = data.tag;
+        const image = grabImage(testCase);
+        const bounds = titleBarSymbol.mapToItem(testCase, 0, 0, titleBarSymbol.width, titleBarSymbol.height);
+        let coloredPixels = 0;
+        for (let y = bounds.top; y < bounds.bottom; ++y) {
+            for (let x = bounds.left; x < bounds.right; ++x) {
+                const color = image.pixel(x, y);
+                if (Qt.colorEqual(color, titleBarSymbol.color))
+                    ++coloredPixels;
+                else
+                    verify(Qt.colorEqual(color, "#ffffff"), color + " at " + (x - bounds.left) + ", " + (y - bounds.top));
+            }
+        }
+        verify(coloredPixels >= 8, "pixels in the symbol's colour: " + coloredPixels);
+        titleBarSymbol.name = "";
+    }
+
     readonly property int defaultFontPixelSize: 12
 
     height: 1400
@@ -372,6 +585,43 @@ TestCase {
             name: ""
             width: 48
             x: 100
+        }
+
+        Icon {
+            id: titleBarSymbol
+
+            color: "#102030"
+            height: 16
+            name: ""
+            width: 16
+            x: 200
+        }
+    }
+
+    TextMetrics {
+        id: capital
+
+        text: "M"
+    }
+
+    Rectangle {
+        id: shadowGround
+
+        color: Theme.surface
+        height: 300
+        width: 400
+        x: 1000
+        y: 1000
+
+        Menu {
+            id: shadowMenu
+
+            x: 50
+            y: 50
+
+            MenuItem {
+                title: "Befehl"
+            }
         }
     }
 

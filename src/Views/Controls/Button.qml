@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A push button. `highlighted` fills the button with the accent colour; `flat` hides the bezel.
 T.Button {
@@ -58,9 +59,8 @@ T.Button {
         }
     }
 
-    background: Rectangle {
-        border.color: control.highlighted ? "transparent" : Theme.controlBorder
-        border.width: control.flat ? 0 : 1
+    background: Box {
+        borderColor: control.highlighted || control.flat ? "transparent" : Theme.controlBorder
         color: control.down ? control.pressedFill : control.hovered ? control.hoveredFill : control.fill
         radius: control.radius
 

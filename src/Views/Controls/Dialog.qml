@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A modal dialog in the middle of the window, over a scrim.
 T.Dialog {
@@ -25,9 +26,12 @@ T.Dialog {
     onAboutToShow: focusReturn.remember(parent)
     onClosed: focusReturn.giveBack()
 
-    background: Rectangle {
-        border.color: Theme.divider
+    background: Box {
+        borderColor: Theme.divider
         color: Theme.surface
         radius: Theme.boxRadius
+
+        Shadow {
+        }
     }
 }

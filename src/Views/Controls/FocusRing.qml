@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Morvane-Projekt
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Morvane.Views.Controls
 
 // Marks keyboard focus by a ring with rounded corners around `parent`.
-Rectangle {
+Box {
     property real gap: 4
 
     anchors.fill: parent
-    anchors.margins: -gap
-    border.color: Theme.accent
-    border.width: 2
-    color: "transparent"
-    radius: ((parent as Rectangle)?.radius ?? 0) + gap
+    borderColor: Theme.accent
+    borderWidth: 2
+    inset: -gap
+    radius: ((parent as Box)?.radius ?? 0) + gap
 }

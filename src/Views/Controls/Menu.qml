@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A menu inside the window. The first letter of an item selects the item.
 T.Menu {
@@ -20,10 +21,13 @@ T.Menu {
     margins: 4
     padding: 5
 
-    background: Rectangle {
-        border.color: Theme.divider
+    background: Box {
+        borderColor: Theme.divider
         color: Theme.menu
         radius: Theme.menuRadius
+
+        Shadow {
+        }
     }
     contentItem: ListView {
         currentIndex: control.currentIndex

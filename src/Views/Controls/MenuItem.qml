@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A menu item with a shortcut that also works while the menu is closed.
 T.MenuItem {
@@ -37,7 +38,7 @@ T.MenuItem {
         command.trigger();
     }
 
-    background: Rectangle {
+    background: Box {
         color: control.highlighted ? Theme.accentFill : "transparent"
         radius: Theme.rowRadius
     }

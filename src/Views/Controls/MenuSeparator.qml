@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A line between groups of menu items.
 T.MenuSeparator {
@@ -9,7 +10,7 @@ T.MenuSeparator {
     width: parent ? parent.width : implicitWidth
 
     contentItem: Item {
-        Rectangle {
+        Box {
             anchors.verticalCenter: parent.verticalCenter
             color: Theme.divider
             height: 1

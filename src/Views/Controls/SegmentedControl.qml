@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A row of segments, one per choice, of which one is selected. A choice by the user emits `chosen`;
 // the component that binds `currentIndex` changes the index.
@@ -31,17 +32,18 @@ FocusScope {
         visible: false
     }
 
-    Rectangle {
+    Box {
         anchors.fill: parent
+        borderColor: Theme.controlBorder
         color: Theme.segmentTrack
-        radius: 7
+        radius: Theme.controlRadius
     }
 
-    Rectangle {
-        border.color: Theme.controlBorder
+    Box {
+        borderColor: Theme.controlBorder
         color: Theme.segment
         height: row.height
-        radius: Theme.rowRadius
+        radius: Theme.controlRadius
         width: row.width / control.choices.length
         x: row.x + control.currentIndex * width
         y: row.y
@@ -61,7 +63,6 @@ FocusScope {
         id: row
 
         anchors.fill: parent
-        anchors.margins: 2
 
         Repeater {
             id: segments
@@ -84,9 +85,9 @@ FocusScope {
                 text: modelData
                 width: row.width / control.choices.length
 
-                background: Rectangle {
+                background: Box {
                     color: segment.hovered && !segment.checked ? Theme.segmentHovered : "transparent"
-                    radius: Theme.rowRadius
+                    radius: Theme.controlRadius
 
                     FocusRing {
                         gap: 0

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A slider for whole numbers. The component that binds `value` changes the value when keys or the
 // wheel request a number.
@@ -17,31 +18,31 @@ T.Slider {
 
     signal numberRequested(real number)
 
-    implicitHeight: 20
+    implicitHeight: Theme.scaled(20)
     implicitWidth: 160
     opacity: enabled ? 1 : Theme.disabledOpacity
     snapMode: T.Slider.SnapAlways
     stepSize: 1
 
-    background: Rectangle {
-        color: control.hovered ? Theme.trackHovered : Theme.track
-        height: 4
+    background: Box {
+        color: Theme.groove
+        height: Theme.scaled(4)
         radius: height / 2
         width: control.availableWidth
         y: (control.height - height) / 2
 
-        Rectangle {
+        Box {
             color: Theme.accent
             height: parent.height
             radius: parent.radius
             width: control.visualPosition * (control.availableWidth - control.handle.width) + control.handle.width / 2
         }
     }
-    handle: Rectangle {
-        border.color: Theme.controlBorder
+    handle: Box {
+        borderColor: Theme.controlBorder
         color: control.pressed ? Theme.knobPressed : Theme.knob
-        implicitHeight: 18
-        implicitWidth: 18
+        implicitHeight: Theme.scaled(18)
+        implicitWidth: implicitHeight
         radius: height / 2
         x: control.visualPosition * (control.availableWidth - width)
         y: (control.height - height) / 2

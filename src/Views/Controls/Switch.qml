@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A switch at the right end of a line, with a label at the left end.
 T.Switch {
@@ -11,23 +12,28 @@ T.Switch {
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth
     opacity: enabled ? 1 : Theme.disabledOpacity
-    spacing: 8
+    spacing: 4
     width: parent?.width ?? implicitWidth
 
     contentItem: PlainText {
-        font: control.font
+        // The width that is missing for the text on one line. Narrower spaces save this width in fonts
+        // as wide as DejaVu Sans.
+        readonly property real excess: Math.ceil(natural.advanceWidth) + rightPadding - control.width
+        readonly property int spaces: control.text.split(" ").length - 1
+
+        font: excess > 0 && spaces > 0 ? Theme.bodyFontWithWordSpacing(-Math.min(excess / spaces, Theme.scaled(2))) : control.font
         rightPadding: control.spacing + control.implicitIndicatorWidth
         text: control.text
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
     }
-    indicator: Rectangle {
+    indicator: Box {
         anchors.right: control.right
         anchors.verticalCenter: control.verticalCenter
-        border.color: control.checked ? color : Theme.controlBorder
+        borderColor: control.checked ? "transparent" : Theme.controlBorder
         color: control.checked ? Theme.accent : control.hovered ? Theme.trackHovered : Theme.track
-        implicitHeight: 20
-        implicitWidth: 36
+        implicitHeight: Theme.scaled(18)
+        implicitWidth: Theme.scaled(32)
         radius: height / 2
 
         Behavior on color  {
@@ -41,15 +47,15 @@ T.Switch {
             visible: control.visualFocus
         }
 
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            border.color: Theme.controlBorder
+        Box {
+            borderColor: control.checked ? "transparent" : Theme.controlBorder
             color: control.down ? Theme.knobPressed : Theme.knob
-            height: 16
+            height: parent.height
+            inset: Theme.scaled(2)
             objectName: "knob"
             radius: height / 2
             width: height
-            x: 2 + control.visualPosition * (parent.width - width - 4)
+            x: control.visualPosition * (parent.width - width)
 
             Behavior on x  {
                 enabled: !control.down
@@ -60,6 +66,13 @@ T.Switch {
                 }
             }
         }
+    }
+
+    TextMetrics {
+        id: natural
+
+        font: control.font
+        text: control.text
     }
 
     // Qt's default action for screen readers assigns `checked`, which breaks the property binding.

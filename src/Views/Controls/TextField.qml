@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A single-line text field that shows `value`. An edit by the user emits `edited`; the component that
 // binds `value` changes the value, possibly to another text, which the field then shows.
@@ -35,9 +36,9 @@ T.TextField {
     topPadding: 5
     bottomPadding: 5
 
-    background: Rectangle {
-        border.color: control.activeFocus ? Theme.accent : control.hovered ? Theme.secondaryText : Theme.controlBorder
-        border.width: control.activeFocus ? 2 : 1
+    background: Box {
+        borderColor: control.activeFocus ? Theme.accent : control.hovered ? Theme.secondaryText : Theme.controlBorder
+        borderWidth: control.activeFocus ? 2 : 1
         color: Theme.controlFill
         radius: Theme.controlRadius
 

@@ -35,6 +35,8 @@ QtObject {
     readonly property color box: dark ? "#303030" : "#f0f0f2"
     readonly property color menu: dark ? "#2e2e30" : "#ffffff"
     readonly property color scrim: dark ? "#80000000" : "#40000000"
+    // The colour of each of the layers of a shadow.
+    readonly property color shadow: dark ? "#0c000000" : "#06000000"
     readonly property color divider: dark ? "#4a4a4a" : "#d2d2d2"
 
     readonly property color text: dark ? "#f2f2f2" : "#1d1d1f"
@@ -43,7 +45,7 @@ QtObject {
     // The background of selected text. Selected text keeps its colour.
     readonly property color selection: dark ? "#2f5685" : "#b3d4ff"
     // Shades of red, orange, blue and green that have a contrast of at least 4.5:1 on `surface`.
-    readonly property list<color> strengthColors: dark ? ["#ff6961", "#ffb340", "#5eb0ff", "#32d74b"] : ["#c9231a", "#a35200", "#0062cc", "#1a7a2e"]
+    readonly property list<color> strengthColors: dark ? ["#ff6961", "#ff9f0a", "#5eb0ff", "#32d74b"] : ["#c9231a", "#c05200", "#0062cc", "#1a7a2e"]
 
     readonly property color accent: dark ? "#0a84ff" : "#007aff"
     // Darker than `accent`, for the contrast of `accentText`.
@@ -52,7 +54,8 @@ QtObject {
     readonly property color accentFillPressed: dark ? "#0a5cbb" : "#0057bd"
     readonly property color accentText: "#ffffff"
 
-    readonly property color controlBorder: dark ? "#1f1f1f" : "#b4b4b8"
+    // Has a contrast of at least 3:1 on `window`, `surface`, `track` and `segmentTrack`.
+    readonly property color controlBorder: dark ? "#828287" : "#747479"
     readonly property color controlFill: dark ? "#454547" : "#ffffff"
     readonly property color controlHovered: dark ? "#4e4e51" : "#f5f5f7"
     readonly property color controlPressed: dark ? "#39393b" : "#e6e6e9"
@@ -60,12 +63,14 @@ QtObject {
     readonly property color flatPressed: dark ? "#454548" : "#d9d9de"
     readonly property color closeHovered: "#d70015"
     readonly property color closePressed: "#b30012"
-    readonly property color track: dark ? "#5a5a5d" : "#c8c8cc"
-    readonly property color trackHovered: dark ? "#666669" : "#bcbcc1"
-    readonly property color knob: dark ? "#e6e6e8" : "#ffffff"
-    readonly property color knobPressed: dark ? "#cfcfd2" : "#f0f0f0"
+    // Has a contrast of at least 3:1 on `window`.
+    readonly property color groove: dark ? "#7e7e83" : "#848489"
+    readonly property color track: dark ? "#4a4a4d" : "#e2e2e5"
+    readonly property color trackHovered: dark ? "#505053" : "#dedee1"
+    readonly property color knob: dark ? "#f2f2f4" : "#ffffff"
+    readonly property color knobPressed: dark ? "#eaeaec" : "#f0f0f0"
     readonly property color segment: dark ? "#636366" : "#ffffff"
-    readonly property color segmentTrack: dark ? "#29292b" : "#dadade"
+    readonly property color segmentTrack: dark ? "#29292b" : "#dededf"
     readonly property color segmentHovered: dark ? "#3a3a3c" : "#d0d0d5"
 
     // Converts a length at the default text size to the length at the user's text size.
@@ -81,6 +86,17 @@ QtObject {
 
     function secretFont(pixels: real, weight: int): font {
         return fontOfSize("monospace", scaled(pixels), weight);
+    }
+
+    // The body font with `wordSpacing` pixels added to each space.
+    function bodyFontWithWordSpacing(wordSpacing: real): font {
+        return Qt.font({
+                "family": bodyFont.family,
+                "hintingPreference": bodyFont.hintingPreference,
+                "pixelSize": bodyFont.pixelSize,
+                "weight": bodyFont.weight,
+                "wordSpacing": wordSpacing
+            });
     }
 
     // Uses `pixels` without scaling it.
