@@ -12,6 +12,9 @@ from portal import APPEARANCE, Portal
 LIGHT, DARK = "#ECECEC", "#323232"
 """The background of the left panel."""
 
+LARGE_TEXT = {"QT_ENABLE_HIGHDPI_SCALING": "0", "QT_FONT_DPI": "160"}
+"""A default font of 20 pixels instead of 12. Without the first variable, Qt scales the window."""
+
 
 class Appearance(unittest.TestCase):
     @classmethod
@@ -78,6 +81,19 @@ class Appearance(unittest.TestCase):
             width, height = self.minimum_size(program)
             self.assertGreater(width, 760)
             self.assertGreater(height, 610)
+
+    def test_the_buttons_of_the_title_bar_grow_with_the_font(self):
+        import pyatspi
+
+        def size(program):
+            close = program.find(lambda a: a.name == "Schließen", "the close button")
+            box = close.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+            return box.width, box.height
+
+        with Program(self.desktop) as program:
+            self.assertEqual(size(program), (32, 28))
+        with Program(self.desktop, variables=LARGE_TEXT) as program:
+            self.assertEqual(size(program), (49, 43))
 
     def test_the_minimum_size_is_scaled_with_the_display(self):
         for scale, expected in (("1.5", (1140, 915)), ("2", (1520, 1220))):
