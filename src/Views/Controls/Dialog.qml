@@ -15,7 +15,7 @@ T.Dialog {
     closePolicy: T.Popup.CloseOnEscape
     focus: true
     implicitHeight: contentHeight + topPadding + bottomPadding
-    implicitWidth: 300
+    implicitWidth: Theme.scaled(300)
     modal: true
     padding: 20
 
