@@ -15,7 +15,8 @@ Item {
     z: -1
 
     Repeater {
-        model: 8
+        // Menus are built after the first frame and opened later.
+        model: root.visible ? 8 : 0
 
         Box {
             required property int index
