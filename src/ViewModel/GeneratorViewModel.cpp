@@ -7,6 +7,7 @@
 #include "Model/UnicodeText.h"
 #include "Platform/Clipboard.h"
 #include "Platform/ContinuousClock.h"
+#include "Services/LineBreaks.h"
 #include "Services/SecretText.h"
 
 #include <QJSEngine>
@@ -32,7 +33,6 @@ constexpr auto hideConfirmationAfter = 1400ms;
 constexpr qint64 startingLength = 10;
 constexpr qsizetype historyLimit = 6;
 constexpr qsizetype separatorLimit = 3;
-constexpr qsizetype shortSecretLimit = 38;
 
 } // namespace
 
@@ -82,7 +82,7 @@ void GeneratorViewModel::limitSeparator()
 
 bool GeneratorViewModel::isLong() const
 {
-    return UnicodeText::graphemeCount(m_generated) > shortSecretLimit;
+    return UnicodeText::graphemeCount(m_generated) > LineBreaks::shortSecretLimit;
 }
 
 void GeneratorViewModel::setErrorPresented(bool presented)

@@ -48,7 +48,7 @@ Rectangle {
             text: "Sichere Passwörter. Lokal geschmiedet."
         }
 
-        Rectangle {
+        Box {
             anchors.horizontalCenter: parent.horizontalCenter
             color: Theme.divider
             height: 1

@@ -213,6 +213,7 @@ TestCase {
 
         height: 27
         objectName: "field"
+        value: ""
         visible: false
         width: 61
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtQuick.Templates as T
+import Morvane.Views.Controls
 
 // A tool tip below its parent, inside the window.
 T.ToolTip {
@@ -18,8 +19,8 @@ T.ToolTip {
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + 6 : 0
 
-    background: Rectangle {
-        border.color: Theme.divider
+    background: Box {
+        borderColor: Theme.divider
         color: Theme.menu
         radius: Theme.rowRadius
     }
