@@ -26,7 +26,7 @@ namespace {
 std::vector<qsizetype> lineLengths(const QString& secret, std::vector<qsizetype> starts,
                                    const QFont& font, double width)
 {
-    if (starts.empty())
+    if (starts.empty() || width <= 0)
         return {};
     const QFontMetricsF metrics(font);
     starts.push_back(secret.size());
@@ -144,7 +144,8 @@ void SecretLayout::setDocument(QQuickTextDocument* document)
 
 int SecretLayout::fittingSize(const QString& secret, const QFont& font, int smallest, double width)
 {
-    if (secret.isEmpty())
+    // Before its first layout, the item has no width. Each smaller size would load another font.
+    if (secret.isEmpty() || width <= 0)
         return font.pixelSize();
     for (const auto& starts :
          {LineBreaks::wordStarts(secret), UnicodeText::graphemeStarts(secret)}) {
