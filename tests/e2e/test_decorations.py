@@ -336,6 +336,9 @@ class ClientSideDecorations(unittest.TestCase):
         wait_for(lambda: self.selected_item() == item, f"{item} after {keys}")
 
     def test_keys_select_menu_items(self):
+        # The umlaut is on this keyboard; otherwise xdotool would change the keyboard for a moment.
+        subprocess.run(["setxkbmap", "de"], check=True)
+        self.addCleanup(subprocess.run, ["setxkbmap", "us"], check=True)
         self.open_menu()
         for keys, item in (
             (["Up"], "Morvane beenden"),
