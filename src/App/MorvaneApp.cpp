@@ -13,8 +13,8 @@
 #include "Views/Controls/AccessibleItem.h"
 #include "Views/Controls/Appearance.h"
 
-#include <QDebug>
 #include <QAccessible>
+#include <QDebug>
 #include <QEventLoop>
 #include <QFont>
 #include <QFontMetricsF>
@@ -61,6 +61,18 @@ void exitWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
         Platform::Termination::fail(
             "Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.");
     earlyWarnings() << message;
+}
+
+/// Handles Qt's messages after the connection to the display. When the display server ends, Qt
+/// writes a warning and exits, on Wayland without running any code of the program.
+void exitWithDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (message.contains(QLatin1String("connection broke")))
+        Platform::Termination::fail(
+            "Morvane hat die Verbindung zur grafischen Oberfläche verloren.");
+    std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << std::endl;
+    if (type == QtFatalMsg)
+        std::abort();
 }
 
 /// The software renderer measures glyphs at scale 1. At other scales, hinted glyphs are wider than
@@ -191,7 +203,7 @@ int MorvaneApp::run(int argc, char** argv) const
                                                     "*.warning=true\n"
                                                     "*.critical=true\n"
                                                     "qt.accessibility.*=false\n"));
-    const QtMessageHandler handler = qInstallMessageHandler(exitWithoutDisplay);
+    qInstallMessageHandler(exitWithoutDisplay);
     // The filter refuses the connection to a display on another machine.
     const bool isDisplayRemote = Platform::Sandbox::isDisplayRemote();
     if (!isDisplayRemote)
@@ -200,7 +212,7 @@ int MorvaneApp::run(int argc, char** argv) const
     const QGuiApplication application(argumentCount, argv);
     if (isDisplayRemote)
         Platform::Sandbox::installSyscallFilter();
-    qInstallMessageHandler(handler);
+    qInstallMessageHandler(exitWithDisplay);
     for (const QString& warning : std::as_const(earlyWarnings()))
         qWarning().noquote() << warning;
     disableHintingOnScaledDisplays(application);

@@ -43,6 +43,8 @@ def wait_for(condition, description, deadline=DEADLINE):
 class Desktop:
     """Starts all processes of the desktop on creation; `close` ends these processes only."""
 
+    display_server = "Xvfb"
+
     def __init__(self):
         self._servers = Servers()
         self._folder = pathlib.Path(tempfile.mkdtemp(prefix="morvane-e2e-"))
@@ -83,6 +85,9 @@ class Desktop:
     def _has_window_manager():
         answer = output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
         return "window id" in answer
+
+    def kill_display_server(self):
+        self._servers.kill(self.display_server)
 
     def screenshot(self, name):
         ARTIFACTS.mkdir(parents=True, exist_ok=True)

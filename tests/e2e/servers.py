@@ -58,6 +58,12 @@ class Servers:
             raise StartError(f"{command[0]} ended before it accepted connections")
         return line
 
+    def kill(self, program):
+        """Kills the process that was started last with this program."""
+        process = next(p for p in reversed(self._processes) if program in p.args)
+        process.kill()
+        process.wait()
+
     def stop(self):
         """Ends the processes in the reverse order of their start."""
         while self._processes:

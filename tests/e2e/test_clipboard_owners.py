@@ -13,6 +13,9 @@ import subprocess
 import time
 import unittest
 
+from Xlib import X
+from Xlib.display import Display
+
 from desktop import wait_for
 from test_clipboard import (
     CLEAR_DELAY,
@@ -115,6 +118,27 @@ def stopped_owner_does_not_delay_input(session):
             raise AssertionError(f"a new secret after {elapsed:.1f} s")
 
 
+def silent_owner_does_not_delay_the_passphrase_mode(session):
+    """Qt's text fields request the formats of each new contents of the clipboard."""
+    session.copy()
+    secrets = wait_for(lambda: shown_secrets(session), "a visible secret")
+    session.run("xdotool", "key", "Tab", "Right")
+    wait_for(lambda: 0 < len(shown_secrets(session)) < len(secrets), "a passphrase")
+    display = Display(session.environment["DISPLAY"])
+    try:
+        owner = display.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        owner.set_selection_owner(display.get_atom("CLIPBOARD"), X.CurrentTime)
+        display.sync()
+        start = time.monotonic()
+        session.run("xdotool", "key", "Left")
+        wait_for(lambda: set(shown_secrets(session)) - set(secrets), "another password")
+        elapsed = time.monotonic() - start
+    finally:
+        display.close()
+    if elapsed > RESPONSE:
+        raise AssertionError(f"another password after {elapsed:.1f} s")
+
+
 class ClipboardOwners(ParallelScenarios, unittest.TestCase):
     cases = tuple(
         itertools.product(
@@ -125,7 +149,7 @@ class ClipboardOwners(ParallelScenarios, unittest.TestCase):
                 stopped_owner_does_not_delay_input,
             ),
         )
-    )
+    ) + ((InputOnX11, silent_owner_does_not_delay_the_passphrase_mode),)
 
 
 if __name__ == "__main__":

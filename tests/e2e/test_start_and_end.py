@@ -11,11 +11,15 @@ import signal
 import socket
 import subprocess
 import unittest
+from unittest import mock
 
 from desktop import DEADLINE, PROGRAM, TERMINATED, Desktop, Program, key, output, wait_for
+from test_clipboard import WaylandSession, X11Session
 
 NO_DISPLAY = "Morvane braucht eine grafische Oberfläche, und keine war zu erreichen.\n"
 NO_RESOURCES = "Morvane braucht mindestens 64 Dateideskriptoren und 1 GiB Adressraum.\n"
+
+DISPLAY_LOST = "Morvane hat die Verbindung zur grafischen Oberfläche verloren.\n"
 
 SIGNALS = (signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGABRT, signal.SIGSEGV)
 
@@ -163,6 +167,20 @@ class StartAndEnd(unittest.TestCase):
         ):
             with self.subTest(name):
                 self.assert_ends(self.start(variables=variables), 1, NO_DISPLAY)
+
+
+class DisplayLoss(unittest.TestCase):
+    """The display server ends while the program offers a secret."""
+
+    def test_the_program_ends_with_one_line(self):
+        for session_type in (X11Session, WaylandSession):
+            with self.subTest(session_type.__name__), mock.patch.dict(os.environ):
+                session = session_type()
+                self.addCleanup(session.desktop.close)
+                session.start()
+                session.copy()
+                session.desktop.kill_display_server()
+                self.assertEqual(session.program.wait_for_exit(), (1, DISPLAY_LOST))
 
 
 if __name__ == "__main__":

@@ -65,6 +65,7 @@ KEYS = {
 class WaylandDesktop(Desktop):
     """Starts all processes of the desktop on creation; `close` ends these processes only."""
 
+    display_server = "sway"
     _input = None
 
     def _start_display(self):

@@ -43,7 +43,6 @@ Menu {
     }
 
     EditItem {
-        isAvailable: root.field?.canPaste ?? false
         shortcut: "Ctrl+V"
         title: "Einfügen"
 

@@ -69,6 +69,10 @@ T.TextField {
     }
     onValueChanged: text = value
 
+    ClipboardIgnorer {
+        input: control
+    }
+
     ContextMenuArea {
         id: contextMenu
 
