@@ -178,6 +178,27 @@ TEST_F(ContinuousClockTest, RunsTasksOfTheSameDeadlineInTheOrderOfTheCalls)
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
 }
 
+TEST_F(ContinuousClockTest, RunsTheTasksThatBecameDueDuringASuspension)
+{
+    std::vector<int> order;
+    bool done = false;
+    timespec later{};
+    ASSERT_EQ(clock_gettime(CLOCK_BOOTTIME, &later), 0);
+    ContinuousClock::after(std::chrono::hours(2), [] { FAIL() << "not due after an hour"; });
+    ContinuousClock::after(std::chrono::seconds(30), [&] {
+        order.push_back(30);
+        done = true;
+    });
+    ContinuousClock::after(milliseconds(1400), [&] { order.push_back(1); });
+    // The kernel's timer expires for this task, and the clock shows an hour more then.
+    ContinuousClock::after(milliseconds(10), [&] { order.push_back(0); });
+    later.tv_sec += 3600;
+    stoppedBootTime = later;
+    runUntil(done);
+    stoppedBootTime.reset();
+    EXPECT_THAT(order, ElementsAre(0, 1, 30));
+}
+
 TEST_F(ContinuousClockTest, HoldsOneTimerForAllPendingTasks)
 {
     bool done = false;
