@@ -70,7 +70,7 @@ void exitWithDisplay(QtMsgType type, const QMessageLogContext& context, const QS
     if (message.contains(QLatin1String("connection broke")))
         Platform::Termination::fail(
             "Morvane hat die Verbindung zur grafischen Oberfläche verloren.");
-    std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << std::endl;
+    std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << '\n';
     if (type == QtFatalMsg)
         std::abort();
 }
