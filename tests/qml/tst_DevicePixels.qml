@@ -87,8 +87,8 @@ TestCase {
         control.visible = true;
         place(control, data.offset);
         const image = grabImage(testCase);
-        const drawn = control.drawn as Item; // qmllint disable missing-property
-        const fill = control.fillColor; // qmllint disable missing-property
+        const drawn = control.drawn as Item; // qmllint disable property
+        const fill = control.fillColor; // qmllint disable property
         // The ends of the switch are curved.
         const sides = control === offSwitch ? ["top", "bottom"] : ["left", "right", "top", "bottom"];
         for (const side of sides)

@@ -322,7 +322,7 @@ TestCase {
 
     // The greatest contrast of the painted pixels from `first` to `second`, points in `item`, to the
     // pixel at `first`. The points lie on a horizontal or a vertical line.
-    function contrastOfLine(item: Item, first: point, second: point, image: QtObject): real {
+    function contrastOfLine(item: Item, first: point, second: point, image: var): real {
         const begin = item.mapToItem(testCase, first.x, first.y);
         const end = item.mapToItem(testCase, second.x, second.y);
         const steps = Math.max(Math.abs(end.x - begin.x), Math.abs(end.y - begin.y));
@@ -415,7 +415,7 @@ TestCase {
 
     function test_theTitleSymbolIsAsLargeAsTheText() {
         const title = findChild(content, "title") as IconLabel;
-        const icon = title.children[0].children[0] as Icon; // qmllint disable missing-property
+        const icon = title.children[0].children[0] as Icon; // qmllint disable property
         compare(icon.name, "key.horizontal.fill");
         const painted = paintedBounds(icon);
         verify(painted.left <= 0.5, "The symbol begins at " + painted.left);
@@ -435,7 +435,7 @@ TestCase {
         system.setFontPixelSize(data.pixels);
         waitForLayout();
         for (const name of ["avoidAmbiguous", "requireEveryGroup"]) {
-            const label = findChild(content, name).contentItem as Text; // qmllint disable missing-property
+            const label = findChild(content, name).contentItem as Text; // qmllint disable property
             compare(label.lineCount, 1, name);
             verify(label.contentWidth + label.rightPadding <= label.width, label.contentWidth + " in " + label.width);
         }

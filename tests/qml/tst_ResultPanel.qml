@@ -176,28 +176,28 @@ TestCase {
 
     function test_passwordsHaveBalancedLinesOfTheSameSizeInEveryDraw_data() {
         // 355 pixels have 21 characters of the larger font and 26 of the smaller font.
-        return [{
-                "length": 10,
-                "lines": [10]
-            }, {
-                "length": 21,
-                "lines": [21]
-            }, {
-                "length": 22,
-                "lines": [11, 11]
-            }, {
-                "length": 38,
-                "lines": [19, 19]
-            }, {
-                "length": 39,
-                "lines": [20, 19]
-            }, {
-                "length": 53,
-                "lines": [18, 18, 17]
-            }, {
-                "length": 64,
-                "lines": [22, 21, 21]
-            }].map(row => Object.assign(row, {
+        return Array.from([{
+                    "length": 10,
+                    "lines": [10]
+                }, {
+                    "length": 21,
+                    "lines": [21]
+                }, {
+                    "length": 22,
+                    "lines": [11, 11]
+                }, {
+                    "length": 38,
+                    "lines": [19, 19]
+                }, {
+                    "length": 39,
+                    "lines": [20, 19]
+                }, {
+                    "length": 53,
+                    "lines": [18, 18, 17]
+                }, {
+                    "length": 64,
+                    "lines": [22, 21, 21]
+                }]).map(row => Object.assign(row, {
                         "tag": String(row.length)
                     }));
     }
@@ -212,7 +212,7 @@ TestCase {
     }
 
     function test_passphrasesBreakAfterTheSeparator_data() {
-        return ["-", ".", "_", ",", "+", " ", " · ", " - ", "x", "7", "", "é", "א", "שלו", "(", "—", "🔑", "🇩🇪"].map(separator => ({
+        return Array.from(["-", ".", "_", ",", "+", " ", " · ", " - ", "x", "7", "", "é", "א", "שלו", "(", "—", "🔑", "🇩🇪"]).map(separator => ({
                         "tag": "'" + separator + "'",
                         "separator": separator
                     }));
