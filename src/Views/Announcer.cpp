@@ -3,6 +3,8 @@
 
 #include "Views/Announcer.h"
 
+#include "Platform/MessageCache.h"
+
 #include <QAccessible>
 #include <QQuickWindow>
 #include <QTimerEvent>
@@ -52,6 +54,7 @@ void Announcer::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() == m_delay.timerId()) {
         m_delay.stop();
+        Platform::MessageCache::wipe(); // Qt's messages about the former secrets are sent.
         show(std::exchange(m_pending, {}));
     } else if (event->timerId() == m_end.timerId()) {
         m_end.stop();

@@ -11,7 +11,8 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Lets a screen reader say a new secret, the confirmation of a copy and an error message, without
-/// interrupting other speech. Does nothing while no assistive technology is active.
+/// interrupting other speech, and overwrites Qt's messages about former secrets. Does nothing while
+/// no assistive technology is active.
 ///
 /// Before Qt 6.8, which has announcements, this item is a notification whose accessible name is
 /// `message`. Screen readers say a notification that appears.
