@@ -12,8 +12,9 @@ Rectangle {
     // The height of the history box when the pointer entered the panel. The history that grows under
     // the pointer does not move the buttons; the column is centred as if the height had stayed.
     property real historyHeight: 0
-    // The height that the panel needs for a long secret on three lines.
-    readonly property real neededHeight: column.implicitHeight - value.implicitHeight + value.longSecretHeight + 2 * (root.padding + column.spacing)
+    // The height that the panel needs for a long secret on three lines. The column itself gets its
+    // height with the first frame, which is too late for the height of the window.
+    readonly property real neededHeight: icon.height + value.longSecretHeight + rating.height + buttons.height + clipboardNote.height + history.height + 7 * column.spacing + 2 * root.padding
     // The width that the panel needs for the longest secret, at the default text size and above.
     readonly property real neededWidth: Math.max(buttons.implicitWidth, rating.implicitWidth, Theme.scaled(355) + 2 * root.valuePadding) + 2 * root.padding
     readonly property real padding: 30
@@ -47,6 +48,8 @@ Rectangle {
         y: Math.min(root.height - height, Math.round((root.height - height + (pointer.hovered ? history.height - root.historyHeight : 0)) / 2))
 
         Icon {
+            id: icon
+
             anchors.horizontalCenter: parent.horizontalCenter
             color: Theme.accent
             height: width
@@ -122,6 +125,8 @@ Rectangle {
         }
 
         Label {
+            id: clipboardNote
+
             color: Theme.tertiaryText
             font: Theme.captionFont
             horizontalAlignment: Text.AlignHCenter

@@ -39,6 +39,12 @@ TestCase {
         content = null;
     }
 
+    function test_theWindowHasItsHeightBeforeTheFirstFrame() {
+        const other = createTemporaryObject(contentComponent, testCase) as ContentView;
+        other.width = 760;
+        compare(other.minimumHeight, 610);
+    }
+
     function test_ratingFollowsTheEntropy_data() {
         return [{
                 "tag": "weak",
