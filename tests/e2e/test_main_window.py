@@ -10,7 +10,11 @@ import unittest
 
 from desktop import Desktop, Program, find_first, output, role_name, wait_for
 
+COUNTING_FONTS = os.environ["MORVANE_COUNTING_FONTS"]
 FAILING_RANDOM = os.environ["MORVANE_FAILING_RANDOM"]
+
+FONTS = 8
+"""The default font, and the fonts of the seven text styles that the window displays."""
 
 LOOK_ALIKES = "Il1O0o"
 
@@ -37,6 +41,13 @@ class MainWindow(unittest.TestCase):
             password = program.find(is_password, "a password of ten characters").name
             self.assertFalse(set(password) & set(LOOK_ALIKES), password)
             self.assertIsNone(find_first(program.accessible(), is_alert))
+
+    def test_only_the_displayed_fonts_are_searched_for(self):
+        with Program(self.desktop, preload=COUNTING_FONTS) as program:
+            program.find(is_password, "a password")
+            program.process.terminate()
+            _, errors = program.wait_for_exit()
+            self.assertEqual(errors.count("FcFontMatch"), FONTS)
 
     def test_a_switch_is_toggled_through_the_accessibility_bus(self):
         with Program(self.desktop) as program:
