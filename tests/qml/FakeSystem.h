@@ -7,6 +7,7 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -38,6 +39,14 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString clipboardText()
     {
         return FakeClipboard::text().value_or(QStringLiteral("(leer)"));
+    }
+
+    /// Enters the text into the item, as an input method does at the end of a composition.
+    Q_INVOKABLE static void commitText(QObject* item, const QString& text)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QCoreApplication::sendEvent(item, &event);
     }
 
     Q_INVOKABLE static void advanceClock(int milliseconds)

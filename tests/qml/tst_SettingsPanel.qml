@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import QtTest
+import Morvane.Testing
 import Morvane.Views
 import Morvane.Views.Controls
 
@@ -408,6 +409,16 @@ TestCase {
         compare(content.model.settings.separator, "ab");
     }
 
+    function test_anInputMethodEntersASingleLine() {
+        showPassphraseSettings();
+        const field = control("separator") as TextField;
+        field.forceActiveFocus();
+        field.selectAll();
+        system.commitText(field, "é\n\u2028\t+abc");
+        compare(content.model.settings.separator, "é +");
+        compare(field.text, "é +");
+    }
+
     height: 800
     name: "SettingsPanel"
     visible: true
@@ -420,6 +431,10 @@ TestCase {
         ContentView {
             focus: true
         }
+    }
+
+    FakeSystem {
+        id: system
     }
 
     SignalSpy {
