@@ -26,7 +26,7 @@ from test_clipboard import (
     wait_until_cleared,
 )
 from test_endurance import RandomSource
-from wayland import APPLICATION, WaylandDesktop, WaylandProgram
+from wayland import WaylandDesktop, WaylandProgram, window_nodes
 
 SEPARATOR = "qjx"
 WORDS = 5
@@ -206,13 +206,7 @@ class WaylandMemorySession(MemorySession, WaylandSession):
         self.desktop.key(*[combination] * times)
 
     def windows(self):
-        nodes, found = [json.loads(self.run("swaymsg", "--raw", "-t", "get_tree"))], []
-        while nodes:
-            node = nodes.pop()
-            nodes += node["nodes"] + node["floating_nodes"]
-            if node.get("app_id") == APPLICATION:
-                found.append(node)
-        return found
+        return window_nodes(json.loads(self.run("swaymsg", "--raw", "--type", "get_tree")))
 
     def window_titles(self):
         return sorted(node["name"] for node in self.windows())

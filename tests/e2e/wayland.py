@@ -62,6 +62,17 @@ KEYS = {
 """Linux key codes, for the layout of a German keyboard."""
 
 
+def window_nodes(tree):
+    """The nodes of the program's windows in sway's tree."""
+    found, nodes = [], [tree]
+    while nodes:
+        node = nodes.pop()
+        nodes += node["nodes"] + node["floating_nodes"]
+        if node.get("app_id") == APPLICATION:
+            found.append(node)
+    return found
+
+
 class WaylandDesktop(Desktop):
     """Starts all processes of the desktop on creation; `close` ends these processes only."""
 
@@ -112,14 +123,7 @@ class WaylandDesktop(Desktop):
         return json.loads(output("swaymsg", "--raw", "--type", "get_tree"))
 
     def window_nodes(self):
-        """The nodes of the program's windows in the tree."""
-        found, nodes = [], [self.tree()]
-        while nodes:
-            node = nodes.pop()
-            nodes += node["nodes"] + node["floating_nodes"]
-            if node.get("app_id") == APPLICATION:
-                found.append(node)
-        return found
+        return window_nodes(self.tree())
 
     def visible_window(self, process):
         """The node of the visible window of a process."""
