@@ -21,7 +21,9 @@ NO_RESOURCES = "Morvane braucht mindestens 64 Dateideskriptoren und 1 GiB Adress
 
 DISPLAY_LOST = "Morvane hat die Verbindung zur grafischen Oberfläche verloren.\n"
 
-SIGNALS = (signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGABRT, signal.SIGSEGV)
+SIGNALS = (signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGABRT, signal.SIGSEGV, signal.SIGTERM)
+
+PRINT_CLIPBOARD = ("timeout", "10", "xclip", "-o", "-selection", "clipboard")
 
 CLOSE_STANDARD_DESCRIPTORS = ["sh", "-c", 'exec "$0" <&- >&- 2>&-']
 
@@ -130,14 +132,17 @@ class StartAndEnd(unittest.TestCase):
         descriptors = self.descriptors(program)
         self.assertEqual({descriptors[number] for number in range(3)}, {"/dev/null"})
 
-    def test_a_signal_ends_the_program_with_a_message(self):
+    def test_a_signal_ends_the_program_and_its_offer_with_a_message(self):
         for number in SIGNALS:
             with self.subTest(number.name):
                 program = self.start()
-                program.window()
+                program.ensure_keyboard_focus()
+                key("ctrl+shift+c")
+                wait_for(lambda: output(*PRINT_CLIPBOARD), "a copied secret")
                 program.process.send_signal(number)
                 message = f"Morvane wurde durch das Signal {number.value} beendet.\n"
                 self.assert_ends(program, -number, message)
+                self.assertEqual(output(*PRINT_CLIPBOARD), "")
 
     def test_an_ignored_signal_stays_ignored(self):
         program = self.start(wrapper=["nohup"])
