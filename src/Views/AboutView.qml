@@ -4,7 +4,7 @@ import QtQuick
 import Morvane.Views.Controls
 
 // The content of the About window: the name, version, privacy statement and maker of the program.
-Rectangle {
+Box {
     color: Theme.window
     implicitHeight: Theme.scaled(390)
     implicitWidth: Theme.scaled(370)

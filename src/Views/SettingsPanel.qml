@@ -5,7 +5,7 @@ import QtQuick
 import Morvane.ViewModel
 import Morvane.Views.Controls
 
-Rectangle {
+Box {
     id: root
 
     required property GeneratorViewModel model

@@ -4,6 +4,7 @@
 """The window follows the user's settings: colour scheme, font size and display scale."""
 
 import re
+import subprocess
 import unittest
 
 from desktop import ARTIFACTS, TERMINATED, Desktop, Program, output, wait_for
@@ -11,6 +12,9 @@ from portal import APPEARANCE, Portal
 
 LIGHT, DARK = "#ECECEC", "#323232"
 """The background of the left panel."""
+
+OUTLINE = "#D2D2D2"
+"""The outline of the window in light colours."""
 
 LARGE_TEXT = {"QT_ENABLE_HIGHDPI_SCALING": "0", "QT_FONT_DPI": "160"}
 """A default font of 20 pixels instead of 12. Without the first variable, Qt scales the window."""
@@ -94,6 +98,20 @@ class Appearance(unittest.TestCase):
             self.assertEqual(size(program), (32, 28))
         with Program(self.desktop, variables=LARGE_TEXT) as program:
             self.assertEqual(size(program), (49, 43))
+
+    def test_the_window_is_painted_up_to_its_last_pixels(self):
+        # 801 and 625 logical pixels are 1001.25 and 781.25 device pixels.
+        with Program(self.desktop, variables={"QT_SCALE_FACTOR": "1.25"}) as program:
+            resize = ["xdotool", "windowsize", "--sync", program.window(), "1001", "781"]
+            subprocess.run(resize, check=True)
+            file = ARTIFACTS / "last-pixels.png"
+            program.save_screenshot(file)
+            for edge, part in (("bottom", "300x1+20+780"), ("right", "1x300+1000+20")):
+                with self.subTest(edge):
+                    colours = output(
+                        "convert", str(file), "-crop", part, "-unique-colors", "txt:"
+                    )
+                    self.assertEqual(re.findall("#[0-9A-F]{6}", colours), [OUTLINE])
 
     def test_the_minimum_size_is_scaled_with_the_display(self):
         for scale, expected in (("1.5", (1140, 915)), ("2", (1520, 1220))):

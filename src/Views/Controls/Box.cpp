@@ -3,11 +3,14 @@
 
 #include "Views/Controls/Box.h"
 
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPen>
 #include <QPointF>
 #include <QQuickWindow>
+#include <QRect>
 #include <QRectF>
+#include <QRegion>
 #include <QSGRenderNode>
 #include <QSGRendererInterface>
 #include <QSizeF>
@@ -28,6 +31,19 @@ struct Drawing
     QSizeF size;
     QQuickWindow* window = nullptr;
 };
+
+/// `region`, extended to the last device pixels of the window where the region reaches the right or
+/// bottom edge. Qt 6.4 and 6.8 round the painted area down to whole logical pixels: at a scale of
+/// 1.25, the last of 781 rows keeps what an earlier frame left in the memory.
+QRegion toLastPixels(QRegion region, const QPaintDevice& device)
+{
+    const auto painted
+        = [&device](int pixels) { return static_cast<int>(pixels / device.devicePixelRatio()); };
+    const QRect area(0, 0, painted(device.width()), painted(device.height()));
+    region += region.intersected(QRect(area.right(), 0, 1, area.height())).translated(1, 0);
+    region += region.intersected(QRect(0, area.bottom(), area.width() + 1, 1)).translated(0, 1);
+    return region;
+}
 
 /// Draws with the painter of the software renderer, the only renderer of the program.
 class BoxNode final : public QSGRenderNode
@@ -59,7 +75,7 @@ void BoxNode::render(const RenderState* state)
     auto* const painter = static_cast<QPainter*>(
         window->rendererInterface()->getResource(window, QSGRendererInterface::PainterResource));
     const qreal scale = painter->device()->devicePixelRatio();
-    painter->setClipRegion(*state->clipRegion());
+    painter->setClipRegion(toLastPixels(*state->clipRegion(), *painter->device()));
     painter->setTransform(QTransform::fromScale(1 / scale, 1 / scale));
     painter->setOpacity(inheritedOpacity());
     painter->setRenderHint(QPainter::Antialiasing);

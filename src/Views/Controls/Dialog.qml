@@ -19,7 +19,7 @@ T.Dialog {
     modal: true
     padding: 20
 
-    T.Overlay.modal: Rectangle {
+    T.Overlay.modal: Box {
         color: Theme.scrim
     }
 
