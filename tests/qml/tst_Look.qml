@@ -443,6 +443,14 @@ TestCase {
             compare(findChild(content, "settingsPanel").width, 280);
     }
 
+    function test_theWordsOfALongLabelKeepTheirDistance() {
+        const label = findChild(content, "requireEveryGroup").contentItem as Text; // qmllint disable property
+        space.font = Theme.bodyFont;
+        const usual = space.advanceWidth;
+        space.font = label.font;
+        verify(space.advanceWidth >= 0.9 * usual, space.advanceWidth + " instead of " + usual);
+    }
+
     function test_controlsGrowWithTheText() {
         content.width = 1200;
         const toggle = findChild(content, "symbols") as Switch;
@@ -596,6 +604,12 @@ TestCase {
             width: 16
             x: 200
         }
+    }
+
+    TextMetrics {
+        id: space
+
+        text: " "
     }
 
     TextMetrics {

@@ -12,16 +12,16 @@ T.Switch {
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth
     opacity: enabled ? 1 : Theme.disabledOpacity
-    spacing: 4
+    spacing: 6
     width: parent?.width ?? implicitWidth
 
     contentItem: PlainText {
-        // The width that is missing for the text on one line. Narrower spaces save this width in fonts
-        // as wide as DejaVu Sans.
-        readonly property real excess: Math.ceil(natural.advanceWidth) + rightPadding - control.width
-        readonly property int spaces: control.text.split(" ").length - 1
+        // The width that is missing for the text on one line. Letters that are up to 2.5 % of the font
+        // size closer together save this width in fonts as wide as DejaVu Sans. Fonts round the
+        // distance, which adds up to less than one pixel.
+        readonly property real excess: Math.ceil(natural.advanceWidth) + 1 + rightPadding - control.width
 
-        font: excess > 0 && spaces > 0 ? Theme.bodyFontWithWordSpacing(-Math.min(excess / spaces, Theme.scaled(2))) : control.font
+        font: excess > 0 ? Theme.bodyFontWithLetterSpacing(-Math.min(excess / text.length, control.font.pixelSize / 40)) : control.font
         rightPadding: control.spacing + control.implicitIndicatorWidth
         text: control.text
         verticalAlignment: Text.AlignVCenter

@@ -88,14 +88,14 @@ QtObject {
         return fontOfSize("monospace", scaled(pixels), weight);
     }
 
-    // The body font with `wordSpacing` pixels added to each space.
-    function bodyFontWithWordSpacing(wordSpacing: real): font {
+    // The body font with `letterSpacing` pixels added to each character.
+    function bodyFontWithLetterSpacing(letterSpacing: real): font {
         return Qt.font({
                 "family": bodyFont.family,
                 "hintingPreference": bodyFont.hintingPreference,
+                "letterSpacing": letterSpacing,
                 "pixelSize": bodyFont.pixelSize,
-                "weight": bodyFont.weight,
-                "wordSpacing": wordSpacing
+                "weight": bodyFont.weight
             });
     }
 
