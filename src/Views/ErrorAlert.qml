@@ -30,11 +30,13 @@ Dialog {
         }
 
         Label {
+            anchors.horizontalCenter: parent.horizontalCenter
             bottomPadding: 14
             horizontalAlignment: Text.AlignHCenter
             objectName: "alertMessage"
             text: root.message
-            width: root.availableWidth
+            // Two lines of nearly equal length if the message does not fit on one line.
+            width: implicitWidth > root.availableWidth ? Math.min(root.availableWidth, 0.6 * implicitWidth) : root.availableWidth
             wrapMode: Text.Wrap
         }
 

@@ -9,12 +9,27 @@ Box {
     id: root
 
     required property list<string> history
+    readonly property int maximumRowCount: 4
+    readonly property int rowCount: Math.min(maximumRowCount, history.length)
+    readonly property real rowPadding: 3
 
     signal chosen(string secret)
+
+    // The height of the box with this number of rows.
+    function heightOfRows(count: int): real {
+        const row = Math.ceil(rowMetrics.height) + 2 * rowPadding;
+        return heading.implicitHeight + count * (rows.spacing + row) + 2 * rows.anchors.margins;
+    }
 
     color: Theme.box
     implicitHeight: rows.implicitHeight + 2 * rows.anchors.margins
     radius: Theme.boxRadius
+
+    FontMetrics {
+        id: rowMetrics
+
+        font: Theme.rowFont
+    }
 
     Column {
         id: rows
@@ -24,6 +39,8 @@ Box {
         spacing: 8
 
         Label {
+            id: heading
+
             font: Theme.headlineFont
             objectName: "historyHeading"
             text: "Diese Sitzung"
@@ -32,7 +49,7 @@ Box {
         }
 
         Repeater {
-            model: Math.min(4, root.history.length)
+            model: root.rowCount
 
             Button {
                 id: row
@@ -50,7 +67,7 @@ Box {
                 radius: Theme.rowRadius
                 rightInset: -6
                 toolTip: (contentItem as PlainText).truncated ? secret : ""
-                verticalPadding: 3
+                verticalPadding: root.rowPadding
                 width: rows.width
 
                 Accessible.description: "Holt diesen Wert zurück in die Anzeige."

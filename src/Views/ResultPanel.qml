@@ -9,12 +9,14 @@ Box {
     id: root
 
     required property GeneratorViewModel model
-    // The height of the history box when the pointer entered the panel. The history that grows under
-    // the pointer does not move the buttons; the column is centred as if the height had stayed.
-    property real historyHeight: 0
-    // The height that the panel needs for a long secret on three lines. The column itself gets its
+    // The height of everything except the value, with a full history. The column itself gets its
     // height with the first frame, which is too late for the height of the window.
-    readonly property real neededHeight: icon.height + value.longSecretHeight + rating.height + buttons.height + clipboardNote.height + history.height + 7 * column.spacing + 2 * root.padding
+    readonly property real fixedHeight: icon.height + rating.height + buttons.height + note.height + history.heightOfRows(history.maximumRowCount) + 5 * column.spacing
+    // The number of rows in the history when the pointer entered the panel. The history that grows
+    // under the pointer does not move the buttons; the column is centred as if the number had stayed.
+    property int heldRowCount: 0
+    // The height that the panel needs for a long secret on three lines and a full history.
+    readonly property real neededHeight: fixedHeight + value.longSecretHeight + 2 * (root.padding + column.spacing)
     // The width that the panel needs for the longest secret, at the default text size and above.
     readonly property real neededWidth: Math.max(buttons.implicitWidth, rating.implicitWidth, Theme.scaled(355) + 2 * root.valuePadding) + 2 * root.padding
     readonly property real padding: 30
@@ -28,7 +30,7 @@ Box {
     HoverHandler {
         id: pointer
 
-        onHoveredChanged: root.historyHeight = history.height
+        onHoveredChanged: root.heldRowCount = history.rowCount
     }
 
     Announcer {
@@ -45,7 +47,11 @@ Box {
         objectName: "resultColumn"
         spacing: 22
         width: parent.width - 2 * root.padding
-        y: Math.min(root.height - height, Math.round((root.height - height + (pointer.hovered ? history.height - root.historyHeight : 0)) / 2))
+        // A full history has space below the buttons, also while the pointer holds the column.
+        y: Math.min(root.height - root.padding - root.fixedHeight - value.height, Math.round((root.height - height + heldGrowth) / 2))
+
+        // The height by which the history has grown under the pointer.
+        readonly property real heldGrowth: pointer.hovered ? history.height - history.heightOfRows(root.heldRowCount) : 0
 
         Icon {
             id: icon
@@ -125,14 +131,16 @@ Box {
         }
 
         Label {
-            id: clipboardNote
+            id: note
 
+            anchors.horizontalCenter: parent.horizontalCenter
             color: Theme.tertiaryText
             font: Theme.captionFont
             horizontalAlignment: Text.AlignHCenter
             objectName: "clipboardNote"
             text: "Die Zwischenablage wird nach 30 Sekunden geleert, sofern du nichts anderes kopierst."
-            width: parent.width
+            // Two lines of nearly equal length if the text does not fit on one line.
+            width: implicitWidth > parent.width ? Math.min(parent.width, 0.6 * implicitWidth) : parent.width
             wrapMode: Text.Wrap
         }
 

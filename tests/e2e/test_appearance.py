@@ -16,8 +16,15 @@ LIGHT, DARK = "#ECECEC", "#323232"
 OUTLINE = "#D2D2D2"
 """The outline of the window in light colours."""
 
-LARGE_TEXT = {"QT_ENABLE_HIGHDPI_SCALING": "0", "QT_FONT_DPI": "160"}
-"""A default font of 20 pixels instead of 12. Without the first variable, Qt scales the window."""
+PLASMA = {
+    "KDE_FULL_SESSION": "true",
+    "KDE_SESSION_VERSION": "5",
+    "XDG_CURRENT_DESKTOP": "KDE",
+}
+"""The variables of a desktop whose palette and font Qt reads from the file kdeglobals."""
+
+LARGE_TEXT = "[General]\nfont=DejaVu Sans,15,-1,5,50,0,0,0,0,0\n"
+"""The setting of a font of 15 points, which are 20 pixels."""
 
 
 class Appearance(unittest.TestCase):
@@ -49,23 +56,24 @@ class Appearance(unittest.TestCase):
                 self.assert_background(program, DARK)
 
     def test_uses_the_desktops_palette_without_a_portal(self):
-        settings = self.desktop.home / ".config"
-        settings.mkdir()
-        file = settings / "kdeglobals"
         # Qt ignores the colours of views and windows if the colours of buttons are missing.
-        for part in ("Button", "View", "Window"):
-            with file.open("a") as palette:
-                palette.write(f"[Colors:{part}]\n")
-                palette.write("BackgroundNormal=40,40,40\nForegroundNormal=240,240,240\n")
-        self.addCleanup(settings.rmdir)
-        self.addCleanup(file.unlink)
-        plasma = {
-            "KDE_FULL_SESSION": "true",
-            "KDE_SESSION_VERSION": "5",
-            "XDG_CURRENT_DESKTOP": "KDE",
-        }
-        with Program(self.desktop, variables=plasma) as program:
+        self.set_plasma(
+            "".join(
+                f"[Colors:{part}]\nBackgroundNormal=40,40,40\nForegroundNormal=240,240,240\n"
+                for part in ("Button", "View", "Window")
+            )
+        )
+        with Program(self.desktop, variables=PLASMA) as program:
             self.assert_background(program, DARK)
+
+    def set_plasma(self, settings):
+        """Writes the settings of the desktop Plasma until the end of the test."""
+        folder = self.desktop.home / ".config"
+        folder.mkdir()
+        self.addCleanup(folder.rmdir)
+        file = folder / "kdeglobals"
+        file.write_text(settings)
+        self.addCleanup(file.unlink)
 
     def test_starts_without_a_session_bus(self):
         no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
@@ -80,11 +88,19 @@ class Appearance(unittest.TestCase):
         return tuple(map(int, re.search(r"minimum size: (\d+) by (\d+)", hints).groups()))
 
     def test_the_minimum_size_grows_with_the_font(self):
-        with Program(self.desktop, variables={"QT_FONT_DPI": "144"}) as program:
+        self.set_plasma(LARGE_TEXT)
+        with Program(self.desktop, variables=PLASMA) as program:
             program.save_screenshot(ARTIFACTS / "font-150.png")
             width, height = self.minimum_size(program)
             self.assertGreater(width, 760)
             self.assertGreater(height, 610)
+            # The rows that the history gets do not resize the window.
+            for _ in range(3):
+                secret = program.secret()
+                program.press("Neu erzeugen")
+                wait_for(lambda: program.secret() != secret, "another secret")
+            program.save_screenshot(ARTIFACTS / "font-150-history.png")
+            self.assertEqual(self.minimum_size(program), (width, height))
 
     def test_the_buttons_of_the_title_bar_grow_with_the_font(self):
         import pyatspi
@@ -96,7 +112,8 @@ class Appearance(unittest.TestCase):
 
         with Program(self.desktop) as program:
             self.assertEqual(size(program), (32, 28))
-        with Program(self.desktop, variables=LARGE_TEXT) as program:
+        self.set_plasma(LARGE_TEXT)
+        with Program(self.desktop, variables=PLASMA) as program:
             self.assertEqual(size(program), (49, 43))
 
     def test_the_window_is_painted_up_to_its_last_pixels(self):

@@ -148,6 +148,29 @@ TestCase {
         verifyContrasts(alert.contentItem, 3);
     }
 
+    // Two lines are balanced if the longer line is not much longer than half of the text.
+    function verifyBalancedLines(text: Text) {
+        compare(text.lineCount, 2);
+        verify(text.contentWidth <= 0.65 * text.implicitWidth, text.contentWidth + " of " + text.implicitWidth);
+        verify(Math.abs(text.x + text.width / 2 - text.parent.width / 2) < 1);
+    }
+
+    function test_theMessageOfTheAlertHasBalancedLines() {
+        for (const group of ["lowercase", "uppercase", "numbers", "symbols"])
+            content.model.settings[group] = false;
+        verifyBalancedLines(findChild(content, "alertMessage") as Text);
+    }
+
+    function test_theClipboardNoteHasBalancedLines() {
+        const note = findChild(content, "clipboardNote") as Text;
+        content.width = 1000;
+        waitForLayout();
+        compare(note.lineCount, 1);
+        system.setFontPixelSize(20);
+        waitForLayout();
+        verifyBalancedLines(note);
+    }
+
     function test_contrastInTheAboutView_data() {
         return test_contrast_data();
     }
@@ -312,12 +335,26 @@ TestCase {
     }
 
     function test_theMinimumSizeGrowsWithTheFont() {
-        for (let i = 0; i < 4; ++i)
-            content.model.generate();
         system.setFontPixelSize(20);
         waitForLayout();
         verify(content.minimumHeight > 610);
         compare(findChild(content, "settingsPanel").width > 280, true);
+    }
+
+    // A minimum size that grows with the history would enlarge the window at a click on a button.
+    function test_theMinimumSizeDoesNotGrowWithTheHistory() {
+        system.setFontPixelSize(20);
+        waitForLayout();
+        sizes.clear();
+        for (let i = 0; i < 4; ++i) {
+            content.model.generate();
+            waitForLayout();
+        }
+        content.model.settings.length = 64;
+        waitForLayout();
+        content.model.settings.mode = 1;
+        waitForLayout();
+        compare(sizes.count, 0);
     }
 
     // The greatest contrast of the painted pixels from `first` to `second`, points in `item`, to the
@@ -604,6 +641,13 @@ TestCase {
             width: 16
             x: 200
         }
+    }
+
+    SignalSpy {
+        id: sizes
+
+        signalName: "minimumHeightChanged"
+        target: testCase.content
     }
 
     TextMetrics {

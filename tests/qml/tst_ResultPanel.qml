@@ -35,6 +35,8 @@ TestCase {
     function cleanup() {
         generations.target = null;
         system.advanceClock(30000);
+        system.setFontPixelSize(defaultFontPixelSize);
+        mouseMove(testCase, 1, 1);
         content.destroy();
         content = null;
     }
@@ -338,12 +340,84 @@ TestCase {
         for (let i = 0; i < 40; ++i) {
             mouseMove(content, point.x, point.y);
             mouseClick(content, point.x, point.y);
-            verify(waitForItemPolished(column));
+            waitForColumn();
         }
         compare(generations.count, 40);
         // The pointer leaves the panel, and the column is centred again.
         mouseMove(content, 1, 1);
         tryVerify(() => Math.abs(column.y + column.height / 2 - content.height / 2) <= 0.51);
+    }
+
+    // Waits until the column has been laid out with all rows of the history.
+    function waitForColumn() {
+        const history = findChild(content, "history") as HistoryBox;
+        tryVerify(() => history.height === history.heightOfRows(history.rowCount));
+        verify(waitForItemPolished(findChild(content, "resultColumn")));
+    }
+
+    // The position of the button "Neu erzeugen" in the content.
+    function buttonPosition(): real {
+        waitForColumn();
+        return findChild(content, "generate").mapToItem(content, 0, 0).y;
+    }
+
+    function isCentred(): bool {
+        const column = findChild(content, "resultColumn") as Item;
+        return Math.abs(column.y + column.height / 2 - content.height / 2) <= 0.51;
+    }
+
+    function test_thePointerHoldsTheButtons_data() {
+        return [{
+                "tag": "as it enters",
+                "change": () => {}
+            }, {
+                "tag": "when the mode changes",
+                "change": () => content.model.settings.mode = 1
+            }, {
+                "tag": "when the window grows",
+                "change": () => content.height = 790
+            }, {
+                "tag": "when the text grows",
+                "change": () => {
+                    system.setFontPixelSize(20);
+                    content.width = content.minimumWidth;
+                    content.height = Qt.binding(() => content?.minimumHeight ?? 0);
+                    content.model.settings.mode = 1;
+                    content.model.settings.wordCount = 8;
+                }
+            }];
+    }
+
+    function test_thePointerHoldsTheButtons(data) {
+        compare(content.model.history.length, 1);
+        mouseMove(content, 500, 20);
+        buttonPosition();
+        verify(isCentred());
+        data.change();
+        const rows = content.model.history.length;
+        let position = buttonPosition();
+        for (let i = rows; i < 6; ++i) {
+            content.model.generate();
+            compare(buttonPosition(), position);
+        }
+        const history = findChild(content, "history") as Item;
+        verify(history.mapToItem(content, 0, history.height).y <= content.height - 30);
+        // The pointer leaves the panel, and the column moves once.
+        mouseMove(content, 1, 1);
+        tryVerify(() => isCentred());
+        position = buttonPosition();
+        content.model.generate();
+        compare(buttonPosition(), position);
+    }
+
+    // A larger text does not count as a growth of the history.
+    function test_thePointerDoesNotHoldTheColumnWhenTheTextGrows() {
+        content.height = 800;
+        mouseMove(content, 500, 20);
+        system.setFontPixelSize(20);
+        content.width = content.minimumWidth;
+        buttonPosition();
+        verify(isCentred());
     }
 
     function test_aSecretThatDoesNotFitShrinksTo65PercentBeforeItIsElided() {
@@ -641,6 +715,8 @@ TestCase {
         compare(rows[2].mapToItem(box, rows[2].width, rows[2].height), Qt.point(box.width - 16, box.height - 16));
     }
 
+    // Below the smallest size of body text.
+    readonly property int defaultFontPixelSize: 12
     // A character of the private use area that only `tallFont` has.
     readonly property string tallCharacter: "\uE0F0"
 
