@@ -8,6 +8,11 @@ Box {
     color: Theme.window
     implicitHeight: Theme.scaled(390)
     implicitWidth: Theme.scaled(370)
+    // When a dialog gets the keyboard focus, screen readers read its name and its longer labels.
+    focus: true
+
+    Accessible.name: program.text + " " + version.text
+    Accessible.role: Accessible.Dialog
 
     component Line: Label {
         anchors.left: parent?.left
@@ -32,6 +37,8 @@ Box {
         }
 
         Line {
+            id: program
+
             font: Theme.titleFont
             text: "Morvane"
 
@@ -39,6 +46,8 @@ Box {
         }
 
         Line {
+            id: version
+
             color: Theme.secondaryText
             text: "Version 1.1"
         }

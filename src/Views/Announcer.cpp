@@ -36,10 +36,6 @@ void Announcer::setModel(GeneratorViewModel* model)
         if (m_model->copied())
             announce(QStringLiteral("Kopiert"));
     });
-    connect(model, &GeneratorViewModel::errorMessageChanged, this, [this] {
-        if (m_model->errorPresented())
-            announce(m_model->errorText());
-    });
 }
 
 void Announcer::announce(const QString& message)

@@ -10,9 +10,12 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// Lets a screen reader say a new secret, the confirmation of a copy and an error message, without
-/// interrupting other speech, and overwrites Qt's messages about former secrets. Does nothing while
-/// no assistive technology is active.
+/// Lets a screen reader say a new secret and the confirmation of a copy, without interrupting other
+/// speech, and overwrites Qt's messages about former secrets. Does nothing while no assistive
+/// technology is active.
+///
+/// An error message needs no announcement: the alert gets the keyboard focus, and screen readers
+/// read it as a dialog.
 ///
 /// Before Qt 6.8, which has announcements, this item is a notification whose accessible name is
 /// `message`. Screen readers say a notification that appears.

@@ -5,6 +5,7 @@
 
 import re
 import subprocess
+import time
 import unittest
 
 from desktop import (
@@ -20,6 +21,9 @@ from desktop import (
 )
 
 PASSPHRASE = r"([a-z]+-){4}[0-9]{1,2}"
+ANNOUNCEMENT_DELAY = 0.3
+"""Seconds after which the program announces a message."""
+
 MARKER = "a text that is not copied from the program"
 
 
@@ -190,28 +194,42 @@ class Announcements(Result):
         from gi.repository import Atspi
 
         self.messages = []
+        self.focused = []
         listener = Atspi.EventListener.new(self.receive)
-        event = "object:announcement" if qt_version() >= (6, 8) else "object:state-changed:showing"
+        announcement = (
+            "object:announcement" if qt_version() >= (6, 8) else "object:state-changed:showing"
+        )
         # Before the program starts, because Qt sends only events that have a listener.
-        listener.register(event)
-        self.addCleanup(listener.deregister, event)
+        for event in (announcement, "object:state-changed:focused"):
+            listener.register(event)
+            self.addCleanup(listener.deregister, event)
         super().setUp()
 
     def receive(self, event):
         if event.type == "object:announcement":
             self.messages.append(event.any_data)
+        elif event.type == "object:state-changed:focused":
+            if event.detail1:
+                self.focused.append((role_name(event.source), event.source.name))
         elif event.detail1 and event.source.get_role_name() == "notification":
             self.messages.append(event.source.name)
 
-    def wait_for_message(self, message):
+    def wait_for_event(self, is_received, description):
+        """Waits until the received events fulfil the condition."""
         from gi.repository import GLib
 
-        def is_announced():
+        def receive_and_check():
             while GLib.MainContext.default().iteration(False):
                 pass
-            return message in self.messages
+            return is_received()
 
-        wait_for(is_announced, f"the announcement {message}")
+        wait_for(receive_and_check, description)
+
+    def wait_for_message(self, message):
+        self.wait_for_event(lambda: message in self.messages, f"the announcement {message}")
+
+    def wait_for_focus(self, role, name):
+        self.wait_for_event(lambda: (role, name) in self.focused, f"the focused {role} {name}")
 
     def test_a_new_secret_is_announced(self):
         secret = self.program.secret()
@@ -226,12 +244,43 @@ class Announcements(Result):
         key("ctrl+shift+c")
         self.wait_for_message("Kopiert")
 
-    def test_an_error_is_announced(self):
+    def test_an_error_is_announced_once(self):
         for name in ("Kleinbuchstaben", "Großbuchstaben", "Zahlen", "Sonderzeichen"):
             self.program.press(name)
+        # Screen readers read the dialog around the focused button.
+        self.wait_for_focus("button", "OK")
         alert = self.program.find(lambda a: a.name == "OK", "the alert").parent
+        self.assertEqual((role_name(alert), alert.name), ("dialog", "Einstellung prüfen"))
         message = [a.name for a in alert if role_name(a) == "label"][-1]
-        self.wait_for_message(message)
+        self.assertEqual(message, "Bitte mindestens eine Zeichengruppe aktivieren.")
+        end = time.monotonic() + 3 * ANNOUNCEMENT_DELAY
+        self.wait_for_event(lambda: time.monotonic() > end, "the end of the delay")
+        self.assertNotIn(message, self.messages)
+
+    def test_the_menu_is_announced(self):
+        key("F10")
+        self.wait_for_focus("popup menu", "Menü")
+
+    def test_the_about_window_is_read(self):
+        key("F10")
+        self.program.find(lambda a: a.name == "Morvane beenden", "the menu")
+        key("Down", "Return")
+        self.wait_for_focus("dialog", "Morvane Version 1.1")
+        dialog = self.program.find(lambda a: a.name == "Morvane Version 1.1", "the dialog")
+        self.assertIn(
+            "Keine Cloud, keine Konten, keine Passwortspeicherung.",
+            [a.name for a in dialog if role_name(a) == "label"],
+        )
+
+    def test_the_attributes_of_the_separator_cover_its_text(self):
+        self.program.press("Passphrase")
+        field = self.program.find(
+            lambda a: a.name == "Trennzeichen" and role_name(a) == "text", "the text field"
+        )
+        text = field.queryText()
+        wait_for(lambda: text.getText(0, -1) == "-", "the separator")
+        # Orca 43 reads only text that has attributes.
+        self.assertEqual(list(text.getAttributes(0)[1:]), [0, 1])
 
 
 if __name__ == "__main__":

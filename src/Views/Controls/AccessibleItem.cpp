@@ -57,9 +57,21 @@ QAccessible::State AccessibleItem::state() const
 
 void* AccessibleItem::interface_cast(QAccessible::InterfaceType type)
 {
-    if (type == QAccessible::EditableTextInterface && object()->inherits(textFieldClass))
-        return static_cast<QAccessibleEditableTextInterface*>(this);
+    if (object()->inherits(textFieldClass)) {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(this);
+        if (type == QAccessible::EditableTextInterface)
+            return static_cast<QAccessibleEditableTextInterface*>(this);
+    }
     return m_base->interface_cast(type);
+}
+
+QString AccessibleItem::attributes(int /*offset*/, int* start, int* end) const
+{
+    // Qt Quick reports an empty range, of which Orca 43 reads no text.
+    *start = 0;
+    *end = characterCount();
+    return {};
 }
 
 void AccessibleItem::replaceText(int start, int end, const QString& text)

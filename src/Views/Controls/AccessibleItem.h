@@ -6,9 +6,11 @@
 #include <QAccessibleInterface>
 
 /// Describes a button, a text field or a popup to screen readers. Adds to the description by Qt
-/// Quick the state of disabled buttons, which Qt 6.4 omits, the edit functions of text fields, and
-/// the names and the modal state of popups.
-class AccessibleItem final : public QAccessibleInterface, public QAccessibleEditableTextInterface
+/// Quick the state of disabled buttons, which Qt 6.4 omits, the edit functions and the range of the
+/// attributes of text fields, and the names and the modal state of popups.
+class AccessibleItem final : public QAccessibleInterface,
+                             public QAccessibleTextInterface,
+                             public QAccessibleEditableTextInterface
 {
 public:
     /// A factory for `QAccessible::installFactory`.
@@ -42,6 +44,38 @@ public:
     [[nodiscard]] QAccessible::State state() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
+    void selection(int index, int* start, int* end) const override
+    {
+        baseText()->selection(index, start, end);
+    }
+    [[nodiscard]] int selectionCount() const override { return baseText()->selectionCount(); }
+    void addSelection(int start, int end) override { baseText()->addSelection(start, end); }
+    void removeSelection(int index) override { baseText()->removeSelection(index); }
+    void setSelection(int index, int start, int end) override
+    {
+        baseText()->setSelection(index, start, end);
+    }
+    [[nodiscard]] int cursorPosition() const override { return baseText()->cursorPosition(); }
+    void setCursorPosition(int position) override { baseText()->setCursorPosition(position); }
+    [[nodiscard]] QString text(int start, int end) const override
+    {
+        return baseText()->text(start, end);
+    }
+    [[nodiscard]] int characterCount() const override { return baseText()->characterCount(); }
+    [[nodiscard]] QRect characterRect(int offset) const override
+    {
+        return baseText()->characterRect(offset);
+    }
+    [[nodiscard]] int offsetAtPoint(const QPoint& point) const override
+    {
+        return baseText()->offsetAtPoint(point);
+    }
+    void scrollToSubstring(int start, int end) override
+    {
+        baseText()->scrollToSubstring(start, end);
+    }
+    QString attributes(int offset, int* start, int* end) const override;
+
     void deleteText(int start, int end) override { replaceText(start, end, {}); }
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString& text) override;
@@ -52,6 +86,8 @@ private:
     {
     }
     ~AccessibleItem() override = default;
+
+    [[nodiscard]] QAccessibleTextInterface* baseText() const { return m_base->textInterface(); }
 
     /// The description by Qt Quick, which Qt deletes together with this object.
     QAccessibleInterface* m_base;

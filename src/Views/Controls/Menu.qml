@@ -42,6 +42,9 @@ T.Menu {
         interactive: false
         model: control.contentModel
 
+        Accessible.name: control.title
+        Accessible.role: Accessible.PopupMenu
+
         Keys.onPressed: event => event.accepted = control.handleKey(event.key, event.text)
 
         HoverHandler {
