@@ -54,7 +54,7 @@ private:
             m_releasedKey = 0;
         }
         return key.isAutoRepeat()
-               || (event->type() != QEvent::KeyRelease && m_releasedKey != 0
+               || (event->type() != QEvent::KeyRelease && m_releasedKey != 0 && m_releaseTime != 0
                    && key.timestamp() == m_releaseTime);
     }
 

@@ -9,7 +9,7 @@ import time
 import unittest
 from unittest import mock
 
-from desktop import Desktop, wait_for
+from desktop import Desktop, Program, key, role_name, wait_for
 from test_clipboard import Session, WaylandSession, X11Session
 from test_endurance import RandomSource
 from wayland import WaylandDesktop
@@ -122,6 +122,37 @@ class HeldKeysOnX11(HeldKeys, unittest.TestCase):
 
 class HeldKeysOnWayland(HeldKeys, unittest.TestCase):
     session_type = Wayland
+
+
+class KeysOfScreenReaders(unittest.TestCase):
+    """While an assistive program listens to windows, Qt asks the program about each key event, and
+    then sends a copy of the event, which has no time."""
+
+    def setUp(self):
+        from gi.repository import Atspi
+
+        self.enterContext(mock.patch.dict(os.environ))
+        self.desktop = Desktop()
+        self.addCleanup(self.desktop.close)
+        listener = Atspi.EventListener.new(lambda event: None)
+        listener.register("window:activate")
+        self.addCleanup(listener.deregister, "window:activate")
+        self.program = self.enterContext(Program(self.desktop))
+        self.program.ensure_keyboard_focus()
+
+    def test_a_key_pressed_twice_toggles_twice(self):
+        import pyatspi
+
+        switch = self.program.find(
+            lambda a: a.name == "Zahlen" and role_name(a) == "check box", "the switch"
+        )
+        switch.queryComponent().grabFocus()
+        for expected in (False, True):
+            key("space")
+            wait_for(
+                lambda: switch.getState().contains(pyatspi.STATE_CHECKED) == expected,
+                f"a switch with the state {expected}",
+            )
 
 
 if __name__ == "__main__":
