@@ -8,6 +8,7 @@
 
 #include <dlfcn.h>
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name of the replaced function
 extern "C" void* FcFontMatch(void* configuration, void* pattern, void* result)
 {
     std::cerr << "FcFontMatch\n";
