@@ -12,8 +12,8 @@
 
 #include <QJSEngine>
 #include <QJSValue>
-#include <QMetaObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 #include <chrono>
@@ -182,7 +182,7 @@ void GeneratorViewModel::scheduleWiping()
             engine->globalObject().property(QStringLiteral("gc")).call();
         wipeReleased();
     };
-    QMetaObject::invokeMethod(this, wipe, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, wipe);
 }
 
 void GeneratorViewModel::wipeReleased()

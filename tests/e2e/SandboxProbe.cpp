@@ -96,6 +96,8 @@ template<typename Call>
 int errorOnFile(Call call)
 {
     const int file = ::open(paths().file.c_str(), O_RDONLY);
+    if (file < 0)
+        return errno;
     const int error = errorOf(call(file));
     ::close(file);
     return error;
